@@ -1,0 +1,17 @@
+// The system's narrow code page: UTF-8 on POSIX, the ANSI code page on Windows.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace platform {
+
+std::string ToNarrow(std::wstring_view text);
+// Bytes that are not valid in the code page become U+FFFD.
+std::wstring ToWide(std::string_view text);
+
+// atoi/atof of a wide text, through the narrow code page as the original does.
+int WideToInt(std::wstring_view text);
+double WideToDouble(std::wstring_view text);
+
+}  // namespace platform

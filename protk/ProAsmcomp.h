@@ -1,0 +1,13 @@
+// Assembly components and component paths.
+#pragma once
+
+#include "ProObjects.h"
+
+PRO_BEGIN_C_DECLS
+
+extern ProError ProAsmcompMdlGet(ProAsmcomp* p_feat_handle, ProMdl* p_mdl_handle);
+extern ProError ProAsmcomppathInit(ProSolid p_solid_handle, ProIdTable memb_id_tab, int table_size,
+                                   ProAsmcomppath* p_handle);
+extern ProError ProAsmcomppathMdlGet(ProAsmcomppath* p_path, ProMdl* p_model);
+
+PRO_END_C_DECLS
