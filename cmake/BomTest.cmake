@@ -15,7 +15,8 @@ function(bom_add_test)
   target_link_libraries(${ARG_NAME} PRIVATE ${ARG_LIBS} GTest::gtest GTest::gtest_main GTest::gmock)
   target_compile_definitions(${ARG_NAME} PRIVATE
     BOM_SOURCE_DIR="${PROJECT_SOURCE_DIR}"
-    BOM_STAGE_DIR="${BOM_STAGE_DIR}")
+    BOM_STAGE_DIR="${BOM_STAGE_DIR}"
+    BOM_SAMPLES_DIR="${BOM_SAMPLES_DIR}")
   set(env "")
   if(ARG_NEEDS_GUI)
     list(APPEND env "QT_QPA_PLATFORM=offscreen")

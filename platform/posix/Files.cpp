@@ -51,8 +51,6 @@ bool WildcardMatch(std::wstring_view pattern, std::wstring_view name) {
     }
   }
   while (p < pattern.size() && pattern[p] == L'*') ++p;
-  // A trailing ".*" also matches a name without that dot, as on Windows.
-  if (p + 2 == pattern.size() && pattern.substr(p) == L".*") return true;
   return p == pattern.size();
 }
 

@@ -1,0 +1,32 @@
+# bom_stage_tree(<target> SOURCE <dir> DESTINATION <dir> [EXCLUDE <regex>...])
+# Copies the files below SOURCE's subfolders into DESTINATION whenever one of
+# them changes, so that programs and tests work on a copy and never write into
+# the source tree. Files directly in SOURCE (its CMakeLists.txt, say) and files
+# matching an EXCLUDE regex stay behind.
+function(bom_stage_tree target)
+  cmake_parse_arguments(ARG "" "SOURCE;DESTINATION" "EXCLUDE" ${ARGN})
+  if(ARG_UNPARSED_ARGUMENTS OR NOT ARG_SOURCE OR NOT ARG_DESTINATION)
+    message(FATAL_ERROR "bom_stage_tree: SOURCE and DESTINATION are required")
+  endif()
+  file(GLOB_RECURSE files CONFIGURE_DEPENDS RELATIVE ${ARG_SOURCE} ${ARG_SOURCE}/*)
+  list(FILTER files INCLUDE REGEX "/")
+  foreach(regex IN LISTS ARG_EXCLUDE)
+    list(FILTER files EXCLUDE REGEX "${regex}")
+  endforeach()
+
+  set(copies "")
+  set(sources "")
+  foreach(file IN LISTS files)
+    list(APPEND sources ${ARG_SOURCE}/${file})
+    list(APPEND copies COMMAND ${CMAKE_COMMAND} -E copy_if_different ${ARG_SOURCE}/${file}
+         ${ARG_DESTINATION}/${file})
+  endforeach()
+
+  set(stamp ${CMAKE_CURRENT_BINARY_DIR}/${target}.stamp)
+  add_custom_command(OUTPUT ${stamp} ${copies}
+    COMMAND ${CMAKE_COMMAND} -E touch ${stamp}
+    DEPENDS ${sources}
+    COMMENT "Staging ${ARG_SOURCE} in ${ARG_DESTINATION}"
+    VERBATIM)
+  add_custom_target(${target} ALL DEPENDS ${stamp})
+endfunction()

@@ -1,0 +1,36 @@
+#include "IniFileIo.h"
+
+#include <fstream>
+#include <sstream>
+
+#include "Files.h"
+
+namespace config {
+namespace {
+
+class DiskFiles final : public IniFileIo {
+ public:
+  std::optional<std::string> ReadAll(const std::wstring& path) override {
+    std::ifstream in(platform::NativePath(path), std::ios::binary);
+    if (!in) return std::nullopt;
+    std::ostringstream bytes;
+    bytes << in.rdbuf();
+    return bytes.str();
+  }
+
+  bool WriteAll(const std::wstring& path, const std::string& bytes) override {
+    std::ofstream out(platform::NativePath(path), std::ios::binary | std::ios::trunc);
+    out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    out.close();
+    return !out.fail();
+  }
+};
+
+}  // namespace
+
+IniFileIo& DiskIniFileIo() {
+  static DiskFiles files;
+  return files;
+}
+
+}  // namespace config

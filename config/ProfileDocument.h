@@ -1,0 +1,66 @@
+// One INI file as its lines: what the profile functions read from it and the
+// one edit they make. Every line keeps its own bytes and line ending, so a
+// write changes nothing but the line it is about.
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace config {
+
+// Section and key names are compared without regard to case.
+bool SameProfileName(std::wstring_view a, std::wstring_view b);
+// Drops blanks and tabs at both ends.
+std::wstring_view TrimBlanks(std::wstring_view text);
+
+struct ProfileEntry {
+  std::wstring key;
+  std::optional<std::wstring> value;  // nullopt for a line without "="
+};
+
+class ProfileDocument {
+ public:
+  // UTF-8, with or without a byte order mark; CRLF and LF line ends.
+  explicit ProfileDocument(std::string_view bytes);
+
+  // The file as it is to be written: the byte order mark when it had one,
+  // new lines ending as the file's first line ends (LF for a new file).
+  std::string Bytes() const;
+
+  // Non-empty section names in file order.
+  std::vector<std::wstring> SectionNames() const;
+  // The key lines of the first section of that name in file order, blanks
+  // around key and value dropped; empty when there is no such section. Blank
+  // lines and comment lines (";") are no entries.
+  std::vector<ProfileEntry> Entries(std::wstring_view section) const;
+
+  // Replaces the key's line, keeping the key as the file spells it, or adds
+  // "key=value" behind the section's last key line; a missing section is
+  // appended to the file with the key.
+  void SetValue(std::wstring_view section, std::wstring_view key, std::wstring_view value);
+
+ private:
+  enum class Kind { kIgnored, kSection, kEntry };
+  struct Line {
+    std::string text;    // bytes without the line ending
+    std::string ending;  // "\r\n", "\n", or "" for an unterminated last line
+    Kind kind = Kind::kIgnored;
+    std::wstring name;  // section name or key
+    std::optional<std::wstring> value;
+  };
+
+  static Line ParseLine(std::string text, std::string ending);
+  std::optional<std::size_t> FindSection(std::wstring_view section) const;
+  // Index of the line that ends the section starting at `header`.
+  std::size_t SectionEnd(std::size_t header) const;
+  void InsertLine(std::size_t at, const std::wstring& text);
+
+  std::string byteOrderMark;
+  std::vector<Line> lines;
+  std::string newLine = "\n";
+};
+
+}  // namespace config

@@ -1,0 +1,54 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "ApplTextPath.h"
+#include "CodePage.h"
+#include "ProToolkitDll.h"
+#include "TextPaths.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+class TextPathsTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    root_ = fs::temp_directory_path() / ("runtime_paths_" + std::to_string(::getpid()) + "_" +
+                                         testing::UnitTest::GetInstance()->current_test_info()->name());
+    fs::remove_all(root_);
+    fs::create_directories(root_ / "text");
+  }
+  void TearDown() override { fs::remove_all(root_); }
+  std::wstring Root() const { return platform::ToWide(root_.string()); }
+  fs::path root_;
+};
+
+}  // namespace
+
+TEST_F(TextPathsTest, WithoutLanguageDirectoryThePathsLieInTextItself) {
+  auto paths = protkrt::BuildTextPaths(Root(), 1);
+  EXPECT_EQ(paths.message, Root() + L"\\text");
+  EXPECT_EQ(paths.menu, Root() + L"\\text\\menus");
+  EXPECT_EQ(paths.resource, Root() + L"\\text\\resource");
+}
+
+TEST_F(TextPathsTest, LanguageDirectoryWinsAndFallsBackToLanguageSix) {
+  fs::create_directories(root_ / "text" / "usascii");
+  auto fallback = protkrt::BuildTextPaths(Root(), 1);
+  EXPECT_EQ(fallback.message, Root() + L"\\text\\usascii");
+  EXPECT_EQ(fallback.menu, Root() + L"\\text\\usascii\\menus");
+
+  fs::create_directories(root_ / "text" / "chinese_cn");
+  auto own = protkrt::BuildTextPaths(Root(), 1);
+  EXPECT_EQ(own.message, Root() + L"\\text\\chinese_cn");
+  EXPECT_EQ(own.resource, Root() + L"\\text\\chinese_cn\\resource");
+}
+
+TEST(ApplTextPath, HostGetsTheRecordedTextDirectory) {
+  protkrt::SetApplTextPath(L"C:\\p");
+  ProPath path{};
+  ASSERT_EQ(ProToolkitApplTextPathGet(path), PRO_TK_NO_ERROR);
+  EXPECT_STREQ(path, L"C:\\p");
+  EXPECT_EQ(ProToolkitApplTextPathGet(nullptr), PRO_TK_BAD_INPUTS);
+}

@@ -1,0 +1,27 @@
+// The workbench's command line: a job name and the options every job shares.
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+struct WorkbenchOptions {
+  std::string job;
+  std::filesystem::path session;
+  // nullopt: the session's own current model; "none": no current model.
+  std::optional<std::wstring> current;
+  std::filesystem::path pluginRoot;
+  std::filesystem::path workdir;
+};
+
+struct ParseResult {
+  std::optional<WorkbenchOptions> options;
+  std::string error;  // set when options is empty
+};
+
+// Defaults: the bundled sample session, the staged plug-in root of the build
+// tree and ./bom-work.
+ParseResult ParseOptions(const std::vector<std::string>& args);
+
+std::string Usage();

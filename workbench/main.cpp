@@ -1,0 +1,34 @@
+// bom-workbench: the Linux host application of the plug-in.
+#include <iostream>
+#include <string>
+#include <vector>
+
+#include "CodePage.h"
+#include "CommandsJob.h"
+#include "HostSession.h"
+#include "Options.h"
+#include "Plugin.h"
+
+int main(int argc, char* argv[]) {
+  ParseResult parsed = ParseOptions(std::vector<std::string>(argv + 1, argv + argc));
+  if (!parsed.options) {
+    std::cerr << "bom-workbench: " << parsed.error << "\n" << Usage();
+    return 2;
+  }
+  const WorkbenchOptions& options = *parsed.options;
+
+  std::string error;
+  if (!StartHostSession(options, error)) {
+    std::cerr << "bom-workbench: " << error << "\n";
+    return 1;
+  }
+  Plugin plugin;
+  std::wstring textDir = platform::ToWide(std::filesystem::absolute(options.pluginRoot).string());
+  if (!plugin.Start(BOM_PLUGIN_LIBRARY, textDir, kHostLanguage, error)) {
+    std::cerr << "bom-workbench: " << error << "\n";
+    return 1;
+  }
+  PrintCommands(std::cout);
+  plugin.Stop();
+  return 0;
+}
