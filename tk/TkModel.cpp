@@ -1,8 +1,10 @@
 #include "TkModel.h"
 
+#include <algorithm>
 #include <cwchar>
 #include <cwctype>
 
+#include "ProArray.h"
 #include "ProAsmcomp.h"
 #include "ProMdl.h"
 #include "ProSolid.h"
@@ -62,6 +64,37 @@ ProError ComponentVisit(ProFeature* feature, ProError, ProAppData data) {
   WalkContext child{{}, cmp.path};
   ProSolidFeatVisit(static_cast<ProSolid>(mdl), ComponentVisit, ComponentFilter, &child);
   context->cmps.insert(context->cmps.end(), child.cmps.begin(), child.cmps.end());
+  return PRO_TK_NO_ERROR;
+}
+
+struct HostWalkContext {
+  ProSolid owner;
+  std::vector<int> ids;  // of the parent occurrence
+  TkModelAsmCmp** cmps;  // a host array
+};
+
+ProError HostArrayVisit(ProFeature* feature, ProError, ProAppData data) {
+  auto* context = static_cast<HostWalkContext*>(data);
+  ProMdl mdl = nullptr;
+  if (ProAsmcompMdlGet(feature, &mdl) != PRO_TK_NO_ERROR) return PRO_TK_CONTINUE;
+
+  std::vector<int> ids = context->ids;
+  ids.push_back(feature->id);
+  // A path deeper than the host's table cannot be made.
+  if (ids.size() > PRO_MAX_ASSEM_LEVEL) return PRO_TK_CONTINUE;
+  ProIdTable table;
+  std::fill(std::begin(table), std::end(table), -1);
+  std::copy(ids.begin(), ids.end(), table);
+  TkModelAsmCmp cmp{{}, *feature, mdl};
+  if (ProAsmcomppathInit(context->owner, table, static_cast<int>(ids.size()), &cmp.path) != PRO_TK_NO_ERROR)
+    return PRO_TK_CONTINUE;
+  ProArrayObjectAdd(reinterpret_cast<ProArray*>(context->cmps), PRO_VALUE_UNUSED, 1, &cmp);
+
+  ProMdlType type = PRO_MDL_UNUSED;
+  ProMdlTypeGet(mdl, &type);
+  if (type != PRO_MDL_ASSEMBLY) return PRO_TK_NO_ERROR;
+  HostWalkContext child{context->owner, ids, context->cmps};
+  ProSolidFeatVisit(static_cast<ProSolid>(mdl), HostArrayVisit, ComponentFilter, &child);
   return PRO_TK_NO_ERROR;
 }
 
@@ -181,4 +214,12 @@ int CTkModel::GetAllComponent2(ProMdl mdl, std::vector<TkModelAsmCmp>& cmps) con
   ProSolidFeatVisit(static_cast<ProSolid>(mdl), ComponentVisit, ComponentFilter, &context);
   cmps = std::move(context.cmps);
   return 0;
+}
+
+int CTkModel::GetAllComponent(ProMdl mdl, TkModelAsmCmp*& cmps) const {
+  cmps = nullptr;
+  ProError status = ProArrayAlloc(0, sizeof(TkModelAsmCmp), 1, reinterpret_cast<ProArray*>(&cmps));
+  if (status != PRO_TK_NO_ERROR) return status;
+  HostWalkContext context{static_cast<ProSolid>(mdl), {}, &cmps};
+  return ProSolidFeatVisit(static_cast<ProSolid>(mdl), HostArrayVisit, ComponentFilter, &context);
 }

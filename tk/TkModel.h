@@ -46,4 +46,8 @@ class CTkModel {
   // Occurrences at depth 25 or deeper are left out. Empties `cmps`; always 0,
   // so a failed walk shows as an empty result.
   int GetAllComponent2(ProMdl mdl, std::vector<TkModelAsmCmp>& cmps) const;
+  // The same walk into a host array of TkModelAsmCmp that the caller frees
+  // with ProArrayFree, paths made by the host, no depth limit of its own.
+  // Answers the status of the host's visit.
+  int GetAllComponent(ProMdl mdl, TkModelAsmCmp*& cmps) const;
 };

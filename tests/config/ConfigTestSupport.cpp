@@ -1,11 +1,5 @@
 #include "ConfigTestSupport.h"
 
-#include <stdlib.h>
-
-#include <fstream>
-#include <sstream>
-
-#include "CodePage.h"
 
 std::optional<std::string> MemoryFiles::ReadAll(const std::wstring& path) {
   auto found = files.find(path);
@@ -20,26 +14,16 @@ bool MemoryFiles::WriteAll(const std::wstring& path, const std::string& bytes) {
 }
 
 void TempDirTest::SetUp() {
-  std::string pattern = (std::filesystem::temp_directory_path() / "config_tests.XXXXXX").string();
-  ASSERT_NE(mkdtemp(pattern.data()), nullptr);
-  dir = pattern;
+  scratch = std::make_unique<TestDir>();
+  dir = scratch->path();
 }
 
-void TempDirTest::TearDown() { std::filesystem::remove_all(dir); }
+void TempDirTest::TearDown() { scratch.reset(); }
 
-std::wstring TempDirTest::PathOf(const std::string& name) const {
-  return platform::ToWide((dir / name).string());
-}
+std::wstring TempDirTest::PathOf(const std::string& name) const { return scratch->Wide(name); }
 
-void TempDirTest::WriteFile(const std::string& name, const std::string& bytes) const {
-  std::filesystem::create_directories((dir / name).parent_path());
-  std::ofstream(dir / name, std::ios::binary) << bytes;
-}
+void TempDirTest::WriteFile(const std::string& name, const std::string& bytes) const { scratch->Write(name, bytes); }
 
-std::string TempDirTest::ReadFile(const std::string& name) const {
-  std::ostringstream bytes;
-  bytes << std::ifstream(dir / name, std::ios::binary).rdbuf();
-  return bytes.str();
-}
+std::string TempDirTest::ReadFile(const std::string& name) const { return scratch->Read(name); }
 
 bool TempDirTest::Exists(const std::string& name) const { return std::filesystem::exists(dir / name); }

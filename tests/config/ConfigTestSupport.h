@@ -6,10 +6,12 @@
 
 #include <filesystem>
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
 
 #include "IniFileIo.h"
+#include "TestDir.h"
 
 class MemoryFiles : public config::IniFileIo {
  public:
@@ -32,4 +34,5 @@ class TempDirTest : public ::testing::Test {
   bool Exists(const std::string& name) const;
 
   std::filesystem::path dir;
+  std::unique_ptr<TestDir> scratch;
 };

@@ -146,7 +146,9 @@ TEST_F(RegistrationTest, EveryLabelIconAndDesignationOfTheInstallationResolves) 
     bool hasIcon = command.name != "CmdBOMShowId" && command.name != "CmdBOMSetId" &&
                    command.name != "CmdSaveAutoSetId";
     EXPECT_EQ(!command.icon.empty(), hasIcon);
-    if (command.designated) EXPECT_FALSE(command.label.empty());
+    if (command.designated) {
+      EXPECT_FALSE(command.label.empty());
+    }
   }
   auto bar = sim::MenuBar();
   for (const char* menu : {"BOMMenubarId", "ParamMenuBarId", "AutoMenuBarId"}) {

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "HostControl.h"
+#include "ProArray.h"
 #include "PluginHost.h"
 #include "TkModel.h"
 
@@ -24,7 +25,9 @@ class TkTraversalTest : public testing::Test {
       names.push_back(model_.GetMdlName(cmp.mdl));
       if (depths) depths->push_back(cmp.path.table_num);
       EXPECT_EQ(cmp.path.owner, static_cast<ProSolid>(top));
-      if (cmp.path.table_num < PRO_MAX_ASSEM_LEVEL) EXPECT_EQ(cmp.path.comp_id_table[cmp.path.table_num], -1);
+      if (cmp.path.table_num < PRO_MAX_ASSEM_LEVEL) {
+        EXPECT_EQ(cmp.path.comp_id_table[cmp.path.table_num], -1);
+      }
       EXPECT_EQ(cmp.path.comp_id_table[cmp.path.table_num - 1], cmp.feature.id);
     }
     return names;
@@ -84,4 +87,36 @@ TEST_F(TkTraversalTest, OccurrencesFromDepthTwentyFiveDownAreLeftOut) {
   EXPECT_EQ(names.front(), L"LEVEL1");
   EXPECT_EQ(names.back(), L"LEVEL24");
   EXPECT_EQ(depths.back(), 24);
+}
+
+TEST_F(TkTraversalTest, HostArrayWalkHasTheSameOrderAndNoDepthLimitOfItsOwn) {
+  host_.AddPart(L"LEAF");
+  std::wstring below = L"leaf.prt";
+  for (int level = 25; level >= 1; --level) {
+    std::wstring file = L"level" + std::to_wstring(level) + L".asm";
+    sim::AddModel(file, Assembly({{level * 10, below}, {level * 10 + 1, L"leaf.prt"}}));
+    below = file;
+  }
+  ProMdl top = sim::AddModel(L"top.asm", Assembly({{1, below}}));
+  TkModelAsmCmp* cmps = nullptr;
+  EXPECT_EQ(model_.GetAllComponent(top, cmps), PRO_TK_NO_ERROR);
+  int count = 0;
+  ASSERT_EQ(ProArraySizeGet(cmps, &count), PRO_TK_NO_ERROR);
+  // Levels 1 to 25, and at each but the deepest its own leaf beside the
+  // deeper level; the 25th level's two parts would need a 26th id.
+  std::vector<TkModelAsmCmp> vectorWalk;
+  model_.GetAllComponent2(top, vectorWalk);
+  ASSERT_EQ(count, 25 + 24);
+  EXPECT_EQ(vectorWalk.size(), 24u + 23u) << "the other walk stops at depth 24";
+  for (size_t i = 0; i < 24; ++i) {
+    EXPECT_EQ(model_.GetMdlName(cmps[i].mdl), model_.GetMdlName(vectorWalk[i].mdl)) << i;
+    int same = 0;
+    model_.IsSameCmpPath(cmps[i].path, vectorWalk[i].path, same);
+    EXPECT_EQ(same, 1) << i;
+  }
+  EXPECT_EQ(model_.GetMdlName(cmps[24].mdl), L"LEVEL25");
+  EXPECT_EQ(cmps[24].path.table_num, 25);
+  EXPECT_EQ(model_.GetMdlName(cmps[count - 1].mdl), L"LEAF");
+  EXPECT_EQ(cmps[count - 1].path.table_num, 2);
+  ProArrayFree(reinterpret_cast<ProArray*>(&cmps));
 }

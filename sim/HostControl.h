@@ -1,0 +1,64 @@
+// The control API of the simulated host: what a test or the workbench does
+// that a user or the host's own start-up would do in the real system.
+// Every function is safe to call from any thread.
+#pragma once
+
+#include "ModelDef.h"
+#include "ProUICmd.h"
+
+#include <filesystem>
+#include <optional>
+#include <string>
+
+namespace sim {
+
+struct HostOptions {
+  std::filesystem::path workingDir;  // the host's current directory, and where the trail goes
+};
+
+// Forgets the whole session (models, windows, menus, commands, messages,
+// macros, call log, failures, configuration options, registered application,
+// scripted answers) and starts the next trail file in the working directory.
+// Handles of the last session stay detectable as unknown.
+void StartHost(const HostOptions& options);
+
+// Reads dir/session.json: its search path and configuration options, then
+// the models it opens; "current" becomes the model of the base window.
+// Models that fail to load are skipped; the first failure is answered.
+ProError LoadSession(const std::filesystem::path& dir);
+
+// The application's text directory and language, from which the host finds
+// message files, menu files and icons.
+void RegisterApplication(const std::wstring& textDir, int language);
+
+// Puts a model into session without a file (its origin is empty). Names are
+// taken as given, so two models may differ only in case. Components and
+// solids are resolved like those of a loaded file.
+ProMdl AddModel(const std::wstring& fileName, const ModelDef& def);
+
+// As ProMdlFiletypeLoad with the type taken from the name; null on failure.
+ProMdl OpenModel(const std::wstring& fileName);
+
+// Shows the model in the base window and makes that window current; null
+// empties it, so that there is no current model. False for an unknown model.
+bool SetCurrentModel(ProMdl model);
+
+// Control comes back to the host after an action: a requested window
+// activation takes effect.
+void ReturnToHost();
+
+// The command's access callback asked in MODE_BLIND (ACCESS_AVAILABLE when it
+// has none); nullopt for an unknown action name.
+std::optional<uiCmdAccessState> Access(const std::string& actionName);
+
+// Runs the command's action callback, then ReturnToHost(). False for an
+// unknown action name or a command without action.
+bool RunAction(const std::string& actionName);
+
+// Scripted answers for the host's choosers, one queue per call name;
+// nullopt is the user cancelling. TakeAnswer on an empty queue also gives
+// nullopt: nobody there to choose.
+void PushAnswer(const std::string& callName, std::optional<std::wstring> answer);
+std::optional<std::wstring> TakeAnswer(const std::string& callName);
+
+}  // namespace sim

@@ -1,0 +1,17 @@
+#include "CallLog.h"
+
+#include "Host.h"
+
+namespace sim {
+
+std::vector<CallRecord> CallLog() {
+  std::lock_guard hold(TheHost().mutex);
+  return TheHost().state.callLog;
+}
+
+void ClearCallLog() {
+  std::lock_guard hold(TheHost().mutex);
+  TheHost().state.callLog.clear();
+}
+
+}  // namespace sim

@@ -1,0 +1,130 @@
+#include "HostControl.h"
+
+#include "CodePage.h"
+#include "Files.h"
+#include "Host.h"
+#include "Session.h"
+#include "SessionFile.h"
+#include "Text.h"
+#include "Trail.h"
+
+namespace sim {
+namespace {
+
+std::unique_lock<std::recursive_mutex> Hold() { return std::unique_lock(TheHost().mutex); }
+
+void ShowInBaseWindow(HostState& state, Model* model) {
+  Window* base = state.FindWindow(0);
+  base->model = model;
+  base->displayed = model != nullptr;
+  state.currentWindow = 0;
+}
+
+}  // namespace
+
+void StartHost(const HostOptions& options) {
+  auto hold = Hold();
+  HostState& state = TheHost().state;
+  state = HostState{};
+  state.workingDir = state.currentDir = NormalDir(options.workingDir);
+  state.trailFile = NextTrailFile(state.workingDir);
+  StartTrail(state.trailFile);
+}
+
+ProError LoadSession(const std::filesystem::path& dir) {
+  auto hold = Hold();
+  Host& host = TheHost();
+  HostState& state = host.state;
+  SessionFile session;
+  if (ProError status = ReadSessionFile(dir / "session.json", session)) return status;
+  state.sessionDir = NormalDir(dir);
+  for (const std::wstring& entry : session.searchPath) {
+    state.searchPath.push_back(NormalDir(state.sessionDir / platform::NativePath(entry)));
+  }
+  for (const auto& [name, value] : session.configOptions) state.configOptions[LowerCase(name)] = value;
+
+  ProError first = PRO_TK_NO_ERROR;
+  auto load = [&](const std::wstring& fileName) {
+    LoadResult loaded = LoadModel(host, fileName, PRO_MDLFILE_UNUSED);
+    if (first == PRO_TK_NO_ERROR) first = loaded.status;
+    return loaded.model;
+  };
+  for (const std::wstring& fileName : session.open) load(fileName);
+  if (session.current) {
+    if (Model* current = load(*session.current)) ShowInBaseWindow(state, current);
+  }
+  return first;
+}
+
+void RegisterApplication(const std::wstring& textDir, int language) {
+  auto hold = Hold();
+  TheHost().state.textPaths = protkrt::BuildTextPaths(textDir, language);
+}
+
+ProMdl AddModel(const std::wstring& fileName, const ModelDef& def) {
+  auto hold = Hold();
+  return Handle(AddBuiltModel(TheHost(), fileName, def));
+}
+
+ProMdl OpenModel(const std::wstring& fileName) {
+  auto hold = Hold();
+  return Handle(LoadModel(TheHost(), fileName, PRO_MDLFILE_UNUSED).model);
+}
+
+bool SetCurrentModel(ProMdl model) {
+  auto hold = Hold();
+  HostState& state = TheHost().state;
+  Model* live = state.LiveModel(model);
+  if (model && !live) return false;
+  ShowInBaseWindow(state, live);
+  return true;
+}
+
+void ReturnToHost() {
+  auto hold = Hold();
+  HostState& state = TheHost().state;
+  if (state.pendingActivation && state.FindWindow(*state.pendingActivation)) {
+    state.currentWindow = *state.pendingActivation;
+  }
+  state.pendingActivation.reset();
+}
+
+// Callbacks run without the host held, as the host's own UI loop calls them.
+std::optional<uiCmdAccessState> Access(const std::string& actionName) {
+  uiCmdAccessFn access = nullptr;
+  {
+    auto hold = Hold();
+    const Command* command = TheHost().state.FindCommand(actionName);
+    if (!command) return std::nullopt;
+    access = command->access;
+  }
+  return access ? access(MODE_BLIND) : ACCESS_AVAILABLE;
+}
+
+bool RunAction(const std::string& actionName) {
+  Command* command = nullptr;
+  {
+    auto hold = Hold();
+    command = TheHost().state.FindCommand(actionName);
+    if (!command || !command->action) return false;
+  }
+  command->action(command, nullptr, nullptr);
+  ReturnToHost();
+  return true;
+}
+
+void PushAnswer(const std::string& callName, std::optional<std::wstring> answer) {
+  auto hold = Hold();
+  TheHost().state.answers[callName].push_back(std::move(answer));
+}
+
+std::optional<std::wstring> TakeAnswer(const std::string& callName) {
+  auto hold = Hold();
+  auto& queue = TheHost().state.answers[callName];
+  if (queue.empty()) return std::nullopt;
+  std::optional<std::wstring> answer = std::move(queue.front());
+  queue.pop_front();
+  return answer;
+}
+
+}  // namespace sim

@@ -1,0 +1,24 @@
+// session.json of a session directory.
+#pragma once
+
+#include "ProToolkit.h"
+
+#include <filesystem>
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace sim {
+
+struct SessionFile {
+  std::vector<std::wstring> open;  // model file names
+  std::optional<std::wstring> current;
+  std::map<std::wstring, std::wstring> configOptions;
+  std::vector<std::wstring> searchPath;  // relative to the session directory
+};
+
+// PRO_TK_E_NOT_FOUND without the file, PRO_TK_INVALID_FILE for bad content.
+ProError ReadSessionFile(const std::filesystem::path& file, SessionFile& session);
+
+}  // namespace sim
