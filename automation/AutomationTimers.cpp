@@ -9,7 +9,9 @@ constexpr std::uintptr_t kWrkDirTimerEvent = 2;
 constexpr unsigned kWrkDirDelayMs = 2000;
 }  // namespace
 
-void StartAutomationTimers() { platform::SetTimer(nullptr, kWrkDirTimerEvent, kWrkDirDelayMs, RestoreWorkDirectory); }
+void StartAutomationTimers() {
+  platform::SetTimer(nullptr, kWrkDirTimerEvent, kWrkDirDelayMs, RestoreWorkDirectory);
+}
 
 void RestoreWorkDirectory(void* window, unsigned, std::uintptr_t id, unsigned long) {
   // The system gave the timer its id; stopping it with that id makes it run once.

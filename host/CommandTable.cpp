@@ -8,52 +8,178 @@ namespace {
 using enum AccessRule;
 
 constexpr CommandDef kBomCommands[] = {
-    {"CmdBOMShowId", "BOMShowMenuBtnID", "BOMShowMenuBtn", "BOMShowMenuBtn", nullptr, {}, AssemblyOrDrawing, true,
+    {"CmdBOMShowId",
+     "BOMShowMenuBtnID",
+     "BOMShowMenuBtn",
+     "BOMShowMenuBtn",
+     nullptr,
+     {},
+     AssemblyOrDrawing,
+     true,
      NotYetAvailable},
-    {"CmdBOMShow2Id", nullptr, nullptr, nullptr, "BOMShow.gif",
-     {"BOMShowMenuBtn", "BOMShowMenuBtn", "BOMShowMenuBtn"}, AssemblyOrDrawing, true, NotYetAvailable},
-    {"CmdBOMSetId", "BOMSetMenuBtnID", "BOMSetMenuBtn", "BOMSetMenuBtn", nullptr, {}, Always, true,
+    {"CmdBOMShow2Id",
+     nullptr,
+     nullptr,
+     nullptr,
+     "BOMShow.gif",
+     {"BOMShowMenuBtn", "BOMShowMenuBtn", "BOMShowMenuBtn"},
+     AssemblyOrDrawing,
+     true,
      NotYetAvailable},
-    {"CmdBOMSet2Id", nullptr, nullptr, nullptr, "BOMSet.gif", {"BOMSetMenuBtn", "BOMSetMenuBtn", "BOMSetMenuBtn"},
-     Always, false, NotYetAvailable},
+    {"CmdBOMSetId",
+     "BOMSetMenuBtnID",
+     "BOMSetMenuBtn",
+     "BOMSetMenuBtn",
+     nullptr,
+     {},
+     Always,
+     true,
+     NotYetAvailable},
+    {"CmdBOMSet2Id",
+     nullptr,
+     nullptr,
+     nullptr,
+     "BOMSet.gif",
+     {"BOMSetMenuBtn", "BOMSetMenuBtn", "BOMSetMenuBtn"},
+     Always,
+     false,
+     NotYetAvailable},
 };
 
 constexpr CommandDef kParamCommands[] = {
-    {"CmdParamsSetId", "ParamSetMenuBtnId", "ParamSetMenuBtn", "ParamSetMenuBtn", "modelcheck.gif", {}, Always,
-     true, NotYetAvailable},
-    {"CmdParamsSet2Id", nullptr, nullptr, nullptr, "modelcheck.gif",
-     {"ParamSetMenuBtnId", "ParamSetMenuBtn", "ParamSetMenuBtn"}, Always, true, NotYetAvailable},
-    {"CmdParamMergeId", "ParamMergeMenuBtnId", "ParamMergeMenuBtn", "ParamMergeMenuBtn", "parameter.gif", {},
-     AnyModel, true, NotYetAvailable},
-    {"CmdMaterialSetId", "MaterialSetMenuBtnId", "MaterialSetMenuBtn", "MaterialSetMenuBtn", "material.gif", {},
-     Always, true, NotYetAvailable},
-    {"CmdMaterialSet2Id", nullptr, nullptr, nullptr, "material.gif",
-     {"MaterialSetMenuBtnId", "MaterialSetMenuBtn", "MaterialSetMenuBtn"}, Always, true, NotYetAvailable},
-    {"CmdIdRelationMenuBtn", "RelationMenuBtnId", "RelationMenuBtn", "RelationMenuBtn", "relations.gif", {},
-     Always, true, NotYetAvailable},
-    {"CmdIdRelationMenuBtn2", nullptr, nullptr, nullptr, "relations.gif",
-     {"RelationMenuBtn2Id", "RelationMenuBtn", "RelationMenuBtn"}, Always, true, NotYetAvailable},
-    {"CmdModelNameId", "ModelNameMenuBtnId", "ModelNameMenuBtn", "ModelNameMenuBtn", "ResetMdlName.gif", {},
-     Always, true, NotYetAvailable},
-    {"CmdModelExportId", "ModelExportMenuBtnID", "ModelExportMenuBtn", "ModelExportMenuBtn", "ExportMdl.gif", {},
-     Assembly, true, NotYetAvailable},
+    {"CmdParamsSetId",
+     "ParamSetMenuBtnId",
+     "ParamSetMenuBtn",
+     "ParamSetMenuBtn",
+     "modelcheck.gif",
+     {},
+     Always,
+     true,
+     NotYetAvailable},
+    {"CmdParamsSet2Id",
+     nullptr,
+     nullptr,
+     nullptr,
+     "modelcheck.gif",
+     {"ParamSetMenuBtnId", "ParamSetMenuBtn", "ParamSetMenuBtn"},
+     Always,
+     true,
+     NotYetAvailable},
+    {"CmdParamMergeId",
+     "ParamMergeMenuBtnId",
+     "ParamMergeMenuBtn",
+     "ParamMergeMenuBtn",
+     "parameter.gif",
+     {},
+     AnyModel,
+     true,
+     NotYetAvailable},
+    {"CmdMaterialSetId",
+     "MaterialSetMenuBtnId",
+     "MaterialSetMenuBtn",
+     "MaterialSetMenuBtn",
+     "material.gif",
+     {},
+     Always,
+     true,
+     NotYetAvailable},
+    {"CmdMaterialSet2Id",
+     nullptr,
+     nullptr,
+     nullptr,
+     "material.gif",
+     {"MaterialSetMenuBtnId", "MaterialSetMenuBtn", "MaterialSetMenuBtn"},
+     Always,
+     true,
+     NotYetAvailable},
+    {"CmdIdRelationMenuBtn",
+     "RelationMenuBtnId",
+     "RelationMenuBtn",
+     "RelationMenuBtn",
+     "relations.gif",
+     {},
+     Always,
+     true,
+     NotYetAvailable},
+    {"CmdIdRelationMenuBtn2",
+     nullptr,
+     nullptr,
+     nullptr,
+     "relations.gif",
+     {"RelationMenuBtn2Id", "RelationMenuBtn", "RelationMenuBtn"},
+     Always,
+     true,
+     NotYetAvailable},
+    {"CmdModelNameId",
+     "ModelNameMenuBtnId",
+     "ModelNameMenuBtn",
+     "ModelNameMenuBtn",
+     "ResetMdlName.gif",
+     {},
+     Always,
+     true,
+     NotYetAvailable},
+    {"CmdModelExportId",
+     "ModelExportMenuBtnID",
+     "ModelExportMenuBtn",
+     "ModelExportMenuBtn",
+     "ExportMdl.gif",
+     {},
+     Assembly,
+     true,
+     NotYetAvailable},
 };
 
 constexpr CommandDef kAutoCommands[] = {
-    {"CmdSaveAutoSetId", "SaveAutoMenuBtnId", "SaveAutoMenuBtn", "SaveAutoMenuBtn", nullptr, {}, Always, true,
+    {"CmdSaveAutoSetId",
+     "SaveAutoMenuBtnId",
+     "SaveAutoMenuBtn",
+     "SaveAutoMenuBtn",
+     nullptr,
+     {},
+     Always,
+     true,
      NotYetAvailable},
-    {"CmdOpenWrkDirId", "OpenWrkDirMenuBtnId", "OpenWrkDirMenuBtn", "OpenWrkDirMenuBtn", "openwrkdir.gif", {},
-     Always, true, OpenWorkDirectory},
-    {"CmdNewDrwId", "NewDrwMenuBtnID", "NewDrwMenuBtn", "NewDrwMenuBtn", "NewDrw.gif", {}, AssemblyOrPart, true,
+    {"CmdOpenWrkDirId",
+     "OpenWrkDirMenuBtnId",
+     "OpenWrkDirMenuBtn",
+     "OpenWrkDirMenuBtn",
+     "openwrkdir.gif",
+     {},
+     Always,
+     true,
+     OpenWorkDirectory},
+    {"CmdNewDrwId",
+     "NewDrwMenuBtnID",
+     "NewDrwMenuBtn",
+     "NewDrwMenuBtn",
+     "NewDrw.gif",
+     {},
+     AssemblyOrPart,
+     true,
      NotYetAvailable},
-    {"CmdBackupMdlId", "BackupMdlMenuBtnID", "BackupMdlMenuBtn", "BackupMdlMenuHelp", "saveas.gif", {},
-     AssemblyOrPart, true, NotYetAvailable},
-    {"CmdDelOldMdlID", "DelOldMdlMenuBtnID", "DelOldMdlMenuBtn", "DelOldMdlMenuBtn", "modeldeloldver.gif", {},
-     AssemblyOrPart, true, NotYetAvailable},
+    {"CmdBackupMdlId",
+     "BackupMdlMenuBtnID",
+     "BackupMdlMenuBtn",
+     "BackupMdlMenuHelp",
+     "saveas.gif",
+     {},
+     AssemblyOrPart,
+     true,
+     NotYetAvailable},
+    {"CmdDelOldMdlID",
+     "DelOldMdlMenuBtnID",
+     "DelOldMdlMenuBtn",
+     "DelOldMdlMenuBtn",
+     "modeldeloldver.gif",
+     {},
+     AssemblyOrPart,
+     true,
+     NotYetAvailable},
 };
 
-constexpr CommandDef kSplCommand = {
-    "CmdSPLId", "SPLMenuBtnId", "SPLMenuBtn", "SPLMenuBtn", "spl.gif", {}, Assembly, true, NotYetAvailable};
+constexpr CommandDef kSplCommand = {"CmdSPLId", "SPLMenuBtnId", "SPLMenuBtn", "SPLMenuBtn",   "spl.gif",
+                                    {},         Assembly,       true,         NotYetAvailable};
 
 // Any failing host call makes a command unavailable.
 bool CurrentTypeIs(std::initializer_list<ProMdlType> types) {
@@ -88,7 +214,8 @@ const MenuGroup& BomGroup() {
 }
 
 const MenuGroup& ParamGroup() {
-  static const MenuGroup group{"ParamMenuBarId", "ParamMenuBar", L"ParamMenu.txt", true, false, kParamCommands};
+  static const MenuGroup group{"ParamMenuBarId", "ParamMenuBar", L"ParamMenu.txt", true, false,
+                               kParamCommands};
   return group;
 }
 
@@ -101,11 +228,16 @@ const CommandDef& SplCommand() { return kSplCommand; }
 
 uiCmdAccessFn AccessCallback(AccessRule rule) {
   switch (rule) {
-    case Always: return AccessAlways;
-    case AssemblyOrDrawing: return AccessAssemblyOrDrawing;
-    case AnyModel: return AccessAnyModel;
-    case Assembly: return AccessAssembly;
-    case AssemblyOrPart: return AccessAssemblyOrPart;
+    case Always:
+      return AccessAlways;
+    case AssemblyOrDrawing:
+      return AccessAssemblyOrDrawing;
+    case AnyModel:
+      return AccessAnyModel;
+    case Assembly:
+      return AccessAssembly;
+    case AssemblyOrPart:
+      return AccessAssemblyOrPart;
   }
   return AccessAlways;
 }

@@ -29,19 +29,20 @@ int AddGroupMenu(const MenuGroup& group, std::string& parentMenu, std::wstring& 
     return ProMenubarMenuAdd(Text(group.menuId), Text(group.labelKey), Text("Utilities"), PRO_B_TRUE,
                              menuFile.data());
   }
-  return ProMenubarmenuMenuAdd(parentMenu.data(), Text(group.menuId), Text(group.labelKey), nullptr, PRO_B_TRUE,
-                               menuFile.data());
+  return ProMenubarmenuMenuAdd(parentMenu.data(), Text(group.menuId), Text(group.labelKey), nullptr,
+                               PRO_B_TRUE, menuFile.data());
 }
 
 void RegisterCommand(const CommandDef& command, const char* parentMenu, std::string& neighbour,
                      std::wstring& menuFile, bool designateBeforeIcon) {
   uiCmdCmdId id = nullptr;
   ProBoolean windowFlag = command.windowFlags ? PRO_B_TRUE : PRO_B_FALSE;
-  ProCmdActionAdd(Text(command.action), command.run, uiProeImmediate, AccessCallback(command.access), windowFlag,
-                  windowFlag, &id);
+  ProCmdActionAdd(Text(command.action), command.run, uiProeImmediate, AccessCallback(command.access),
+                  windowFlag, windowFlag, &id);
   if (command.button) {
     ProMenubarmenuPushbuttonAdd(Text(parentMenu), Text(command.button), Text(command.labelKey),
-                                Text(command.helpKey), OptionalText(neighbour), PRO_B_TRUE, id, menuFile.data());
+                                Text(command.helpKey), OptionalText(neighbour), PRO_B_TRUE, id,
+                                menuFile.data());
   }
   auto setIcon = [&] {
     if (command.icon) ProCmdIconSet(id, Text(command.icon));

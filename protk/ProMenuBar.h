@@ -10,7 +10,8 @@ typedef char ProMenuItemLabel[PRO_LINE_SIZE];
 typedef char ProMenuLineHelp[PRO_LINE_SIZE];
 
 extern ProError ProMenubarMenuAdd(ProMenuItemName menu_name, ProMenuItemLabel untranslated_menu_label,
-                                  ProMenuItemName neighbor, ProBoolean add_after_neighbor, ProFileName filename);
+                                  ProMenuItemName neighbor, ProBoolean add_after_neighbor,
+                                  ProFileName filename);
 extern ProError ProMenubarmenuMenuAdd(ProMenuItemName parent_menu, ProMenuItemName menu_name,
                                       ProMenuItemLabel menu_label, ProMenuItemName neighbor,
                                       ProBoolean add_after_neighbor, ProFileName filename);

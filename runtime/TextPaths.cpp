@@ -19,17 +19,28 @@ std::wstring Format(const wchar_t* format, const std::wstring& a, const std::wst
 
 std::wstring LanguageDirName(int language) {
   switch (language) {
-    case 1: return L"chinese_cn";
-    case 2: return L"chinese_tw";
-    case 3: return L"german";
-    case 4: return L"french";
-    case 5: return L"japanese";
-    case 6: return L"usascii";
-    case 7: return L"italian";
-    case 8: return L"spanish";
-    case 9: return L"korean";
-    case 10: return L"russian";
-    default: return L"";
+    case 1:
+      return L"chinese_cn";
+    case 2:
+      return L"chinese_tw";
+    case 3:
+      return L"german";
+    case 4:
+      return L"french";
+    case 5:
+      return L"japanese";
+    case 6:
+      return L"usascii";
+    case 7:
+      return L"italian";
+    case 8:
+      return L"spanish";
+    case 9:
+      return L"korean";
+    case 10:
+      return L"russian";
+    default:
+      return L"";
   }
 }
 

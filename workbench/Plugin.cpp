@@ -30,8 +30,14 @@ bool Plugin::Start(const std::filesystem::path& library, const std::wstring& tex
   }
   char program[] = "bom-workbench";
   char* argv[] = {program, nullptr};
-  ProToolkitHostInfo info{sizeof(ProToolkitHostInfo), PRO_TOOLKIT_ABI_VERSION, textDir.c_str(), language,
-                          "8.0", "bom-workbench", 1, argv};
+  ProToolkitHostInfo info{sizeof(ProToolkitHostInfo),
+                          PRO_TOOLKIT_ABI_VERSION,
+                          textDir.c_str(),
+                          language,
+                          "8.0",
+                          "bom-workbench",
+                          1,
+                          argv};
   wchar_t errorText[80] = {};
   if (initialize(&info, errorText) != 0) {
     error = "the application did not start: " + platform::ToNarrow(errorText);

@@ -16,7 +16,8 @@ class Plugin {
   // Loads the library and calls its start entry with the text directory and
   // language. False with `error` set when the library cannot be loaded or
   // refuses to start.
-  bool Start(const std::filesystem::path& library, const std::wstring& textDir, int language, std::string& error);
+  bool Start(const std::filesystem::path& library, const std::wstring& textDir, int language,
+             std::string& error);
   void Stop();
 
  private:

@@ -24,8 +24,8 @@ MenuItem* FindMenu(std::vector<MenuItem>& bar, std::string_view name) {
   return nullptr;
 }
 
-Placement PlaceMenuItem(const std::vector<MenuItem>& siblings, std::string_view name,
-                        const char* neighbour, bool addAfter) {
+Placement PlaceMenuItem(const std::vector<MenuItem>& siblings, std::string_view name, const char* neighbour,
+                        bool addAfter) {
   auto present = [&](const MenuItem& s) { return s.name == name; };
   if (std::any_of(siblings.begin(), siblings.end(), present)) return {PRO_TK_E_FOUND};
   if (!neighbour || !*neighbour) return {PRO_TK_NO_ERROR, addAfter ? siblings.size() : 0};

@@ -24,7 +24,7 @@ struct Placement {
 // empty) at the end (after) or the front (before). PRO_TK_E_FOUND when an
 // item of that name is there already, PRO_TK_GENERAL_ERROR for a neighbour
 // that is not among the siblings.
-Placement PlaceMenuItem(const std::vector<MenuItem>& siblings, std::string_view name,
-                        const char* neighbour, bool addAfter);
+Placement PlaceMenuItem(const std::vector<MenuItem>& siblings, std::string_view name, const char* neighbour,
+                        bool addAfter);
 
 }  // namespace sim

@@ -11,8 +11,7 @@ namespace {
 // Resolves the item's keys and puts it in place; nothing changes on failure.
 ProError AddItem(const sim::HostState& state, std::vector<sim::MenuItem>& siblings, sim::MenuItem item,
                  const char* neighbour, ProBoolean add_after, const wchar_t* filename) {
-  sim::Placement placement =
-      sim::PlaceMenuItem(siblings, item.name, neighbour, add_after == PRO_B_TRUE);
+  sim::Placement placement = sim::PlaceMenuItem(siblings, item.name, neighbour, add_after == PRO_B_TRUE);
   if (placement.status != PRO_TK_NO_ERROR) return placement.status;
   sim::MessageLookup label = sim::LookupMessage(state, filename, item.labelKey.c_str());
   if (label.status != PRO_TK_NO_ERROR) return PRO_TK_MSG_NOT_FOUND;

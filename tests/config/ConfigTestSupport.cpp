@@ -1,6 +1,5 @@
 #include "ConfigTestSupport.h"
 
-
 std::optional<std::string> MemoryFiles::ReadAll(const std::wstring& path) {
   auto found = files.find(path);
   if (found == files.end()) return std::nullopt;
@@ -22,7 +21,9 @@ void TempDirTest::TearDown() { scratch.reset(); }
 
 std::wstring TempDirTest::PathOf(const std::string& name) const { return scratch->Wide(name); }
 
-void TempDirTest::WriteFile(const std::string& name, const std::string& bytes) const { scratch->Write(name, bytes); }
+void TempDirTest::WriteFile(const std::string& name, const std::string& bytes) const {
+  scratch->Write(name, bytes);
+}
 
 std::string TempDirTest::ReadFile(const std::string& name) const { return scratch->Read(name); }
 

@@ -20,7 +20,8 @@ class AccessRulesTest : public testing::Test {
 
   std::map<std::string, bool> Availability() {
     std::map<std::string, bool> available;
-    for (const auto& command : sim::Commands()) available[command.name] = sim::Access(command.name) == ACCESS_AVAILABLE;
+    for (const auto& command : sim::Commands())
+      available[command.name] = sim::Access(command.name) == ACCESS_AVAILABLE;
     return available;
   }
 
@@ -28,9 +29,10 @@ class AccessRulesTest : public testing::Test {
   PluginHost host_{dir_};
 };
 
-const char* kAlways[] = {"CmdBOMSetId",       "CmdBOMSet2Id",      "CmdParamsSetId",       "CmdParamsSet2Id",
-                         "CmdMaterialSetId",  "CmdMaterialSet2Id", "CmdIdRelationMenuBtn", "CmdIdRelationMenuBtn2",
-                         "CmdModelNameId",    "CmdSaveAutoSetId",  "CmdOpenWrkDirId"};
+const char* kAlways[] = {"CmdBOMSetId",          "CmdBOMSet2Id",          "CmdParamsSetId",
+                         "CmdParamsSet2Id",      "CmdMaterialSetId",      "CmdMaterialSet2Id",
+                         "CmdIdRelationMenuBtn", "CmdIdRelationMenuBtn2", "CmdModelNameId",
+                         "CmdSaveAutoSetId",     "CmdOpenWrkDirId"};
 
 }  // namespace
 
@@ -38,8 +40,8 @@ TEST_F(AccessRulesTest, WithoutModelOnlyTheAlwaysCommandsAreAvailable) {
   host_.MakeCurrent(nullptr);
   auto available = Availability();
   for (const char* name : kAlways) EXPECT_TRUE(available[name]) << name;
-  for (const char* name : {"CmdBOMShowId", "CmdBOMShow2Id", "CmdParamMergeId", "CmdModelExportId", "CmdNewDrwId",
-                           "CmdBackupMdlId", "CmdDelOldMdlID", "CmdSPLId"})
+  for (const char* name : {"CmdBOMShowId", "CmdBOMShow2Id", "CmdParamMergeId", "CmdModelExportId",
+                           "CmdNewDrwId", "CmdBackupMdlId", "CmdDelOldMdlID", "CmdSPLId"})
     EXPECT_FALSE(available[name]) << name;
 }
 

@@ -19,8 +19,8 @@ class LifecycleTest : public testing::Test {
   void SetUp() override { AutoSaveStarted = 1; }
 
   void SetSaveAuto(const std::string& isSaveWrkDir, const std::string& dir) {
-    dir_.Write("app/config/SaveAuto.cfg", "[DlgSet]\nSaveAuto=0\n[WrkDir]\nIsSaveWrkDir=" + isSaveWrkDir +
-                                              "\nDir=" + dir + "\n");
+    dir_.Write("app/config/SaveAuto.cfg",
+               "[DlgSet]\nSaveAuto=0\n[WrkDir]\nIsSaveWrkDir=" + isSaveWrkDir + "\nDir=" + dir + "\n");
   }
 
   TestDir dir_;

@@ -143,8 +143,8 @@ TEST_F(RegistrationTest, EveryLabelIconAndDesignationOfTheInstallationResolves) 
   for (const auto& command : commands) {
     SCOPED_TRACE(command.name);
     EXPECT_EQ(command.priority, 2);
-    bool hasIcon = command.name != "CmdBOMShowId" && command.name != "CmdBOMSetId" &&
-                   command.name != "CmdSaveAutoSetId";
+    bool hasIcon =
+        command.name != "CmdBOMShowId" && command.name != "CmdBOMSetId" && command.name != "CmdSaveAutoSetId";
     EXPECT_EQ(!command.icon.empty(), hasIcon);
     if (command.designated) {
       EXPECT_FALSE(command.label.empty());
@@ -171,7 +171,8 @@ TEST_F(RegistrationTest, WindowFlagsAreOnExceptForTheSecondSettingsCommand) {
 TEST_F(RegistrationTest, AutoSaveSettingsHasNoIconNoDesignationAndOnlyItsButton) {
   Initialize();
   auto commands = sim::Commands();
-  auto it = std::find_if(commands.begin(), commands.end(), [](const auto& c) { return c.name == "CmdSaveAutoSetId"; });
+  auto it = std::find_if(commands.begin(), commands.end(),
+                         [](const auto& c) { return c.name == "CmdSaveAutoSetId"; });
   ASSERT_NE(it, commands.end());
   EXPECT_TRUE(it->icon.empty());
   EXPECT_FALSE(it->designated);
@@ -243,9 +244,10 @@ TEST_F(RegistrationTest, FrontMenuBtnPutsTheSettingsButtonBeforeTheListButtonBeh
   std::wstring file = L"BOMMenu.txt";
   ASSERT_EQ(ProMenubarMenuAdd(menu, label, utilities, PRO_B_TRUE, file.data()), PRO_TK_NO_ERROR);
   uiCmdCmdId id = nullptr;
-  ASSERT_EQ(ProCmdActionAdd(action, [](uiCmdCmdId, uiCmdValue*, void*) { return 0; }, 2, nullptr, PRO_B_TRUE,
-                            PRO_B_TRUE, &id),
-            PRO_TK_NO_ERROR);
+  ASSERT_EQ(
+      ProCmdActionAdd(
+          action, [](uiCmdCmdId, uiCmdValue*, void*) { return 0; }, 2, nullptr, PRO_B_TRUE, PRO_B_TRUE, &id),
+      PRO_TK_NO_ERROR);
   ASSERT_EQ(ProMenubarmenuPushbuttonAdd(menu, button, key, key, nullptr, PRO_B_TRUE, id, file.data()),
             PRO_TK_NO_ERROR);
   SetMenuOption("FrontMenuBtn", "HostBtn");

@@ -5,13 +5,17 @@
 TEST(CodePage, ChineseTextRoundTripsThroughTheNarrowCodePage) {
   std::wstring text = L"零件清单显示 M8×30 □";
   std::string narrow = platform::ToNarrow(text);
-  EXPECT_EQ(narrow, "\xE9\x9B\xB6\xE4\xBB\xB6\xE6\xB8\x85\xE5\x8D\x95\xE6\x98\xBE\xE7\xA4\xBA M8\xC3\x97"
-                    "30 \xE2\x96\xA1");
+  EXPECT_EQ(narrow,
+            "\xE9\x9B\xB6\xE4\xBB\xB6\xE6\xB8\x85\xE5\x8D\x95\xE6\x98\xBE\xE7\xA4\xBA M8\xC3\x97"
+            "30 \xE2\x96\xA1");
   EXPECT_EQ(platform::ToWide(narrow), text);
 }
 
 TEST(CodePage, InvalidBytesBecomeReplacementCharacters) {
-  EXPECT_EQ(platform::ToWide("a\xFF" "b"), L"a\xFFFD" L"b");
+  EXPECT_EQ(platform::ToWide("a\xFF"
+                             "b"),
+            L"a\xFFFD"
+            L"b");
   EXPECT_EQ(platform::ToWide("\xE9\x9B"), L"\xFFFD\xFFFD");  // cut short
 }
 

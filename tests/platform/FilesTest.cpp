@@ -2,10 +2,10 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
 
 #include "CodePage.h"
 #include "Files.h"
+#include "TestDir.h"
 
 namespace fs = std::filesystem;
 
@@ -14,15 +14,11 @@ namespace {
 class FilesTest : public testing::Test {
  protected:
   void SetUp() override {
-    dir_ = fs::temp_directory_path() / ("platform_files_" + std::to_string(::getpid()) + "_" +
-                                        testing::UnitTest::GetInstance()->current_test_info()->name());
-    fs::remove_all(dir_);
-    fs::create_directories(dir_ / "sub");
-    for (const char* name : {"a.prt", "a.prt.1", "a.prt.2", "b.asm.3", "readme"}) std::ofstream(dir_ / name) << "x";
+    fs::create_directories(dir_.path() / "sub");
+    for (const char* name : {"a.prt", "a.prt.1", "a.prt.2", "b.asm.3", "readme"}) dir_.Write(name, "x");
   }
-  void TearDown() override { fs::remove_all(dir_); }
 
-  std::wstring Dir() const { return platform::ToWide(dir_.string()); }
+  std::wstring Dir() const { return dir_.Wide(); }
 
   std::vector<std::wstring> Names(const std::wstring& pattern) const {
     std::vector<std::wstring> names;
@@ -31,7 +27,7 @@ class FilesTest : public testing::Test {
     return names;
   }
 
-  fs::path dir_;
+  TestDir dir_;
 };
 
 }  // namespace
@@ -48,7 +44,8 @@ TEST_F(FilesTest, BackslashesAndDoubledSeparatorsNameTheSameFile) {
 
 TEST_F(FilesTest, StarDotStarListsEveryEntryWithDotEntries) {
   auto names = Names(Dir() + L"\\*.*");
-  std::vector<std::wstring> expected = {L".", L"..", L"a.prt", L"a.prt.1", L"a.prt.2", L"b.asm.3", L"readme", L"sub"};
+  std::vector<std::wstring> expected = {L".",       L"..",      L"a.prt",  L"a.prt.1",
+                                        L"a.prt.2", L"b.asm.3", L"readme", L"sub"};
   EXPECT_EQ(names, expected);
   auto entries = platform::EnumerateDirectory(Dir() + L"\\*.*");
   auto sub = std::find_if(entries.begin(), entries.end(), [](const auto& e) { return e.name == L"sub"; });

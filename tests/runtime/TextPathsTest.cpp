@@ -5,6 +5,7 @@
 #include "ApplTextPath.h"
 #include "CodePage.h"
 #include "ProToolkitDll.h"
+#include "TestDir.h"
 #include "TextPaths.h"
 
 namespace fs = std::filesystem;
@@ -13,15 +14,10 @@ namespace {
 
 class TextPathsTest : public testing::Test {
  protected:
-  void SetUp() override {
-    root_ = fs::temp_directory_path() / ("runtime_paths_" + std::to_string(::getpid()) + "_" +
-                                         testing::UnitTest::GetInstance()->current_test_info()->name());
-    fs::remove_all(root_);
-    fs::create_directories(root_ / "text");
-  }
-  void TearDown() override { fs::remove_all(root_); }
-  std::wstring Root() const { return platform::ToWide(root_.string()); }
-  fs::path root_;
+  void SetUp() override { fs::create_directories(dir_.path() / "text"); }
+  std::wstring Root() const { return dir_.Wide(); }
+  TestDir dir_;
+  const fs::path& root_ = dir_.path();
 };
 
 }  // namespace

@@ -7,7 +7,8 @@
 
 namespace {
 
-sim::ModelDef Assembly(std::vector<sim::ComponentDef> components, std::vector<sim::FeatureDef> features = {}) {
+sim::ModelDef Assembly(std::vector<sim::ComponentDef> components,
+                       std::vector<sim::FeatureDef> features = {}) {
   sim::ModelDef def;
   def.type = PRO_MDL_ASSEMBLY;
   def.components = std::move(components);

@@ -19,8 +19,9 @@ struct JobRun {
 class CommandsJobTest : public testing::Test {
  protected:
   JobRun Workbench(const std::string& arguments) {
-    std::string command = std::string(BOM_WORKBENCH) + " commands --workdir '" + (dir_.path() / "work").string() +
-                          "' --plugin-root '" + PluginRoot() + "' " + arguments + " 2>&1";
+    std::string command = std::string(BOM_WORKBENCH) + " commands --workdir '" +
+                          (dir_.path() / "work").string() + "' --plugin-root '" + PluginRoot() + "' " +
+                          arguments + " 2>&1";
     JobRun run;
     FILE* pipe = popen(command.c_str(), "r");
     char buffer[4096];
@@ -32,7 +33,8 @@ class CommandsJobTest : public testing::Test {
   // A copy of the staged installation: the job writes the work directory back.
   std::string PluginRoot() {
     auto root = dir_.path() / "app";
-    if (!std::filesystem::exists(root)) std::filesystem::copy(BOM_STAGE_DIR, root, std::filesystem::copy_options::recursive);
+    if (!std::filesystem::exists(root))
+      std::filesystem::copy(BOM_STAGE_DIR, root, std::filesystem::copy_options::recursive);
     return root.string();
   }
 
@@ -43,7 +45,8 @@ class CommandsJobTest : public testing::Test {
     std::istringstream lines(run.out);
     for (std::string line; std::getline(lines, line);) {
       size_t tab = line.find('\t');
-      if (line.rfind("Cmd", 0) == 0 && tab != std::string::npos) states[line.substr(0, tab)] = line.substr(tab + 1);
+      if (line.rfind("Cmd", 0) == 0 && tab != std::string::npos)
+        states[line.substr(0, tab)] = line.substr(tab + 1);
     }
     return states;
   }
@@ -92,7 +95,8 @@ TEST_F(CommandsJobTest, HostStartWritesTheTrailAndExitStoresTheWorkDirectory) {
   EXPECT_EQ(dir_.Read("work/trail.txt.1").rfind("!trail file version", 0), 0u);
   ASSERT_EQ(Workbench("").exitCode, 0);
   EXPECT_TRUE(std::filesystem::exists(dir_.path() / "work" / "trail.txt.2")) << "a new trail per host start";
-  EXPECT_NE(dir_.Read("app/config/SaveAuto.cfg").find("Dir=" + (dir_.path() / "work").string()), std::string::npos);
+  EXPECT_NE(dir_.Read("app/config/SaveAuto.cfg").find("Dir=" + (dir_.path() / "work").string()),
+            std::string::npos);
 }
 
 TEST_F(CommandsJobTest, BadInputIsRefusedWithAReason) {
