@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "CodePage.h"
+#include "DebugOutput.h"
 
 TEST(CodePage, ChineseTextRoundTripsThroughTheNarrowCodePage) {
   std::wstring text = L"零件清单显示 M8×30 □";
@@ -24,4 +25,12 @@ TEST(CodePage, NumbersConvertWithAtoiRules) {
   EXPECT_EQ(platform::WideToInt(L""), 0);
   EXPECT_EQ(platform::WideToInt(L"abc"), 0);
   EXPECT_DOUBLE_EQ(platform::WideToDouble(L" 2.5kg"), 2.5);
+}
+
+TEST(DebugOutput, GoesToTheInstalledSinkOnly) {
+  std::vector<std::wstring> seen;
+  auto previous = platform::SetDebugSink([&](std::wstring_view text) { seen.emplace_back(text); });
+  platform::OutputDebugString(L"@_排序 3");
+  platform::SetDebugSink(previous);
+  EXPECT_EQ(seen, std::vector<std::wstring>{L"@_排序 3"});
 }
