@@ -1,5 +1,6 @@
 #include "AutomationTimers.h"
 
+#include "AutoSave.h"
 #include "CfgOption.h"
 #include "TkFile.h"
 #include "Timers.h"
@@ -10,6 +11,7 @@ constexpr unsigned kWrkDirDelayMs = 2000;
 }  // namespace
 
 void StartAutomationTimers() {
+  StartAutoSaveTimer();
   platform::SetTimer(nullptr, kWrkDirTimerEvent, kWrkDirDelayMs, RestoreWorkDirectory);
 }
 

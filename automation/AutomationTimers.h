@@ -3,8 +3,9 @@
 
 #include <cstdint>
 
-// Starts the one-shot work-directory timer (2000 ms): it restores the work
-// directory of the last exit when "IsSaveWrkDir" is on.
+// Starts the automatic-save timer (AutoSave.h) when "SaveAuto" is on, and the
+// one-shot work-directory timer (2000 ms), which restores the work directory
+// of the last exit when "IsSaveWrkDir" is on.
 void StartAutomationTimers();
 
 // The work-directory timer's callback, as the system calls it.

@@ -17,7 +17,9 @@ function(bom_add_test)
     BOM_SOURCE_DIR="${PROJECT_SOURCE_DIR}"
     BOM_STAGE_DIR="${BOM_STAGE_DIR}"
     BOM_SAMPLES_DIR="${BOM_SAMPLES_DIR}")
-  set(env "")
+  # What a test sends to the trash lands in the build tree, never in the
+  # user's own trash.
+  set(env "XDG_DATA_HOME=${CMAKE_BINARY_DIR}/test-data-home")
   if(ARG_NEEDS_GUI)
     list(APPEND env "QT_QPA_PLATFORM=offscreen")
   endif()

@@ -79,3 +79,21 @@ void CCfgOption::SetText(const std::wstring& path, const std::wstring& section, 
                          const std::wstring& value) {
   CIniEx().SetValue(path, section, key, value, L"");
 }
+
+void CCfgOption::GetTextList(const std::wstring& path, const std::wstring& section, const std::wstring& key,
+                             wchar_t separator, std::vector<std::wstring>& items) const {
+  textFile.SplitText(GetText(path, section, key), items, separator, 1);
+}
+
+void CCfgOption::GetNumberList(const std::wstring& path, const std::wstring& section, const std::wstring& key,
+                               std::vector<unsigned>& numbers) {
+  numbers.clear();
+  std::wstring text = GetText(path, section, key);
+  for (size_t start = 0; start < text.size();) {
+    size_t comma = text.find(L',', start);
+    std::wstring piece = text.substr(start, comma == std::wstring::npos ? std::wstring::npos : comma - start);
+    numbers.push_back(static_cast<unsigned>(platform::WideToInt(piece)));
+    if (comma == std::wstring::npos) break;
+    start = comma + 1;
+  }
+}

@@ -11,7 +11,7 @@ namespace {
 class DiskFiles final : public IniFileIo {
  public:
   std::optional<std::string> ReadAll(const std::wstring& path) override {
-    std::ifstream in(platform::NativePath(path), std::ios::binary);
+    std::ifstream in(platform::ResolvePath(path), std::ios::binary);
     if (!in) return std::nullopt;
     std::ostringstream bytes;
     bytes << in.rdbuf();
@@ -19,7 +19,7 @@ class DiskFiles final : public IniFileIo {
   }
 
   bool WriteAll(const std::wstring& path, const std::string& bytes) override {
-    std::ofstream out(platform::NativePath(path), std::ios::binary | std::ios::trunc);
+    std::ofstream out(platform::ResolvePath(path), std::ios::binary | std::ios::trunc);
     out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     out.close();
     return !out.fail();

@@ -1,4 +1,4 @@
-// File existence and directory enumeration over Windows-style paths.
+// Files and directories over Windows-style paths.
 #pragma once
 
 #include <filesystem>
@@ -9,8 +9,16 @@
 namespace platform {
 
 // The plug-in writes paths with backslashes and sometimes doubles a
-// separator; both name the same file here.
+// separator; both name the same file here. Purely lexical.
 std::filesystem::path NativePath(std::wstring_view path);
+
+// NativePath, then, on a file system that tells case apart, each component
+// that does not exist as written takes the spelling of an entry of its
+// directory that differs in case only, so that \template\bom.xls finds
+// BOM.xls as on the plug-in's home system. Components that match nothing
+// stay as written, so the result also names a file about to be created.
+// Every file service here goes through it.
+std::filesystem::path ResolvePath(std::wstring_view path);
 
 bool FileExists(std::wstring_view path);
 bool DirectoryExists(std::wstring_view path);
@@ -28,5 +36,15 @@ struct DirEntry {
 std::vector<DirEntry> EnumerateDirectory(std::wstring_view pattern);
 
 bool WildcardMatch(std::wstring_view pattern, std::wstring_view name);
+
+// As the system's CopyFile: false when `from` is no readable file, or when
+// `to` exists and `failIfExists` is set; otherwise `to` is replaced.
+bool CopyFile(std::wstring_view from, std::wstring_view to, bool failIfExists);
+// As the system's CreateDirectory: one level; false when the directory
+// exists already or its parent does not.
+bool CreateDirectory(std::wstring_view path);
+// Removes a file, or a directory with everything below it, for good; false
+// when there was nothing to remove or it could not be removed.
+bool DeletePermanently(std::wstring_view path);
 
 }  // namespace platform

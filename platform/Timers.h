@@ -6,6 +6,7 @@
 
 #include <chrono>
 #include <cstdint>
+#include <vector>
 
 namespace platform {
 
@@ -25,7 +26,7 @@ struct TimerInfo {
   unsigned elapseMs;
   TimerProc proc;
 };
-int ActiveTimerCount();
+std::vector<TimerInfo> ActiveTimers();
 bool FindTimer(std::uintptr_t id, TimerInfo* info);
 
 }  // namespace platform

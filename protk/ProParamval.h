@@ -15,4 +15,17 @@ typedef enum param_value_types {
   PRO_PARAM_NOT_SET = 58
 } ProParamvalueType;
 
+// A boolean is a short and a text an inline line, not a pointer.
+typedef union param_value_values {
+  double d_val;
+  int i_val;
+  short l_val;
+  ProLine s_val;
+} ProParamvalueValue;
+
+typedef struct Pro_Param_Value {
+  ProParamvalueType type;
+  ProParamvalueValue value;
+} ProParamvalue;
+
 PRO_END_C_DECLS

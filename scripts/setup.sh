@@ -6,6 +6,10 @@ packages=(
   cmake ninja-build g++ pkg-config
   libgtest-dev libgmock-dev
   nlohmann-json3-dev
+  libbenchmark-dev
+  # the spreadsheet engine, and the independent readers its tests use
+  libgsf-1-dev libpugixml-dev
+  python3-xlrd python3-openpyxl libreoffice-calc-nogui fonts-wqy-zenhei
 )
 
 missing=()

@@ -1,9 +1,11 @@
 #include "TkFile.h"
 
-#include <cwchar>
+#include <string>
 
+#include "ProMdl.h"
 #include "ProToolkitDll.h"
 #include "ProUtil.h"
+#include "TkText.h"
 
 namespace {
 
@@ -12,6 +14,19 @@ std::wstring TrimBlanks(const std::wstring& text) {
   if (first == std::wstring::npos) return L"";
   size_t last = text.find_last_not_of(L' ');
   return text.substr(first, last - first + 1);
+}
+
+// The file a model picked from the session came from; empty on failure.
+std::wstring InSessionOrigin(const std::wstring& name, const std::wstring& extension) {
+  std::wstring fileName = name + L"." + extension;
+  if (fileName.starts_with(L'\\')) fileName.erase(0, 1);
+  ProPath path{};
+  tktext::CopyToBuffer(path, fileName);
+  ProMdl mdl = nullptr;
+  if (ProMdlFiletypeLoad(path, PRO_MDLFILE_UNUSED, PRO_B_FALSE, &mdl) != PRO_TK_NO_ERROR) return L"";
+  ProPath origin{};
+  if (ProMdlOriginGet(mdl, origin) != PRO_TK_NO_ERROR) return L"";
+  return origin;
 }
 
 }  // namespace
@@ -37,9 +52,53 @@ std::wstring CTkFile::GetCurDir() const {
 int CTkFile::ChangeCurDir(const std::wstring& directory, int result) const {
   if (directory.empty()) return result;
   ProPath path{};
-  std::wcsncpy(path, directory.c_str(), PRO_PATH_SIZE - 1);
+  tktext::CopyToBuffer(path, directory);
   ProDirectoryChange(path);
   return result;
+}
+
+std::wstring CTkFile::ChooseDir(const std::wstring& defaultDir) const {
+  ProPath current{};
+  if (ProDirectoryCurrentGet(current) != PRO_TK_NO_ERROR) return L"";
+  ProPath start{};
+  tktext::CopyToBuffer(start, defaultDir.empty() ? std::wstring(current) : defaultDir);
+  ProName noTitle{};
+  ProPath selected{};
+  if (ProDirectoryChoose(noTitle, nullptr, nullptr, start, selected) != PRO_TK_NO_ERROR) return defaultDir;
+  return selected;
+}
+
+std::wstring CTkFile::GetConfigOption(const std::wstring& name) const {
+  ProName option{};
+  tktext::CopyToBuffer(option, name);
+  ProPath value{};
+  if (ProConfigoptionGet(option, value) != PRO_TK_NO_ERROR) return L"";
+  return value;
+}
+
+std::wstring CTkFile::ChooseMdlFile(const std::wstring& filter, const std::wstring& label,
+                                    int keepVersion) const {
+  ProPath start{};
+  tktext::CopyToBuffer(start, label);
+  ProMdlFileName preselected{};
+  tktext::CopyToBuffer(preselected, filter);
+  ProPath selected{};
+  if (ProFileMdlfiletypeOpen(nullptr, nullptr, nullptr, nullptr, start, preselected, selected) !=
+      PRO_TK_NO_ERROR)
+    return L"";
+  ProPath directory{};
+  ProMdlName name{};
+  ProMdlExtension extension{};
+  int version = 0;
+  if (ProFileMdlnameParse(selected, directory, name, extension, &version) != PRO_TK_NO_ERROR) return L"";
+  std::wstring path = selected;
+  // A model picked from the session comes back under the host's "insession:"
+  // directory; the tools want the file it was loaded from.
+  if (std::wstring(directory) == L"insession:") {
+    path = InSessionOrigin(name, extension);
+    if (path.empty()) return L"";
+  }
+  return keepVersion ? path : tktext::CutLastDotOfSeveral(path);
 }
 
 void CTkFile::SplitText(const std::wstring& text, std::vector<std::wstring>& pieces, wchar_t separator,

@@ -10,6 +10,7 @@
 #include "ProSolid.h"
 #include "ProWindows.h"
 #include "ProWstring.h"
+#include "TkText.h"
 
 namespace {
 
@@ -138,11 +139,7 @@ int CTkModel::GetMdlType(ProMdl mdl, int& type) const {
 std::wstring CTkModel::GetMdlOriginPath(ProMdl mdl, int keepVersion) const {
   ProPath origin{};
   if (ProMdlOriginGet(mdl, origin) != PRO_TK_NO_ERROR) return L"";
-  std::wstring path = origin;
-  size_t first = path.find(L'.');
-  size_t last = path.rfind(L'.');
-  if (!keepVersion && first != last) path.erase(last);
-  return path;
+  return keepVersion ? std::wstring(origin) : tktext::CutLastDotOfSeveral(origin);
 }
 
 std::wstring CTkModel::GetMdlOriginDir(ProMdl mdl) const {

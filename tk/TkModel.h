@@ -2,9 +2,11 @@
 // component tree. No state: any instance does the same.
 #pragma once
 
+#include <array>
 #include <string>
 #include <vector>
 
+#include "ProMdlUnits.h"
 #include "ProObjects.h"
 
 // One occurrence of a component in the assembly tree.
@@ -50,4 +52,48 @@ class CTkModel {
   // with ProArrayFree, paths made by the host, no depth limit of its own.
   // Answers the status of the host's visit.
   int GetAllComponent(ProMdl mdl, TkModelAsmCmp*& cmps) const;
+
+  // Files and session standing (TkModelFiles.cpp). The version n is the
+  // host's version of the model, 0 when it cannot be had. Deletions go to the
+  // trash, silently; a version file that is not there is no failure.
+  //
+  // Saves the model, then each component occurrence of an assembly, each
+  // followed by DelMdlVersions; the last component lookup's status.
+  int SaveMdlAll(ProMdl mdl) const;
+  int GetMdlVersion(ProMdl mdl) const;
+  // The model written into `directory` under its own name.
+  int CopyMdl(ProMdl mdl, const std::wstring& directory) const;
+  // The unversioned origin path F and F.1 to F.(n-1) go; F.n stays. 0.
+  int DelMdlVersions(ProMdl mdl) const;
+  // F and F.1 to F.n go. 0.
+  int DelMdlVersionsAll(ProMdl mdl) const;
+  // directory\name.1 to directory\name.(n-1) go, name being the origin's
+  // file name: a copy there is taken to be numbered as the model. 0.
+  int DelOldVersionsKeepCurrent(ProMdl mdl, const std::wstring& directory) const;
+  int RenameMdl(ProMdl mdl, const std::wstring& newName) const;
+  int SetMdlCommonName(ProMdl mdl, const std::wstring& text) const;
+  int RegenerateMdl(ProMdl mdl) const;
+  // `mdl` first, then each model below it once by type and upper-cased name,
+  // suppressed components included; a drawing gives what each of its solids
+  // gives, one after the other, duplicates and all.
+  int GetAllSubMdls(ProMdl mdl, std::vector<ProMdl>& models) const;
+  // Assemblies, then parts, then drawings; 0.
+  int GetSessionMdls(std::vector<ProMdl>& models) const;
+  int GetPrincipalUnitSystem(ProMdl mdl, ProUnitsystem& system) const;
+  // Empties `systems` first; 0.
+  int GetUnitSystems(ProMdl mdl, std::vector<ProUnitsystem>& systems) const;
+  // `conversion` is the host's unit conversion type.
+  int SetPrincipalUnitSystem(ProMdl mdl, ProUnitsystem& system, int conversion) const;
+
+  // Minimum x, y, z, then maximum x, y, z. A part's box is the box around its
+  // surfaces' own boxes in its coordinates (zeros without surfaces). Another
+  // solid's is made of the boxes of all its occurrences in the top's
+  // coordinates, each corner moved by itself; -4 when no occurrence could be
+  // placed.
+  int GetSolidOutLine(ProMdl mdl, std::array<double, 6>& box) const;
+  // About `csysName`, the default coordinate system when empty; the inertia
+  // in the host's units divided by 1000. All outputs 0 on failure.
+  int GetMassProperty(ProMdl mdl, double& mass, double& cogX, double& cogY, double& cogZ, double& ixx,
+                      double& iyy, double& izz, double& ixy, double& ixz, double& iyz,
+                      const std::wstring& csysName) const;
 };

@@ -6,6 +6,16 @@
 #include <string>
 #include <vector>
 
+// The job "rows": which list, and the collection's settings.
+struct RowsOptions {
+  std::string level;  // "single", "multi" or "summary"
+  int sameAsmCmps = 0;
+  std::wstring sortParam;  // empty: no sort
+  std::wstring filterKey;
+  std::vector<std::wstring> filterValues;
+  int keepMatches = 0;
+};
+
 struct WorkbenchOptions {
   std::string job;
   std::filesystem::path session;
@@ -13,6 +23,7 @@ struct WorkbenchOptions {
   std::optional<std::wstring> current;
   std::filesystem::path pluginRoot;
   std::filesystem::path workdir;
+  RowsOptions rows{};
 };
 
 struct ParseResult {

@@ -8,6 +8,7 @@
 #include "HostSession.h"
 #include "Options.h"
 #include "Plugin.h"
+#include "RowsJob.h"
 
 int main(int argc, char* argv[]) {
   ParseResult parsed = ParseOptions(std::vector<std::string>(argv + 1, argv + argc));
@@ -28,7 +29,12 @@ int main(int argc, char* argv[]) {
     std::cerr << "bom-workbench: " << error << "\n";
     return 1;
   }
-  PrintCommands(std::cout);
+  int exitCode = 0;
+  if (options.job == "rows") {
+    exitCode = PrintRows(options.rows, std::cout, std::cerr);
+  } else {
+    PrintCommands(std::cout);
+  }
   plugin.Stop();
-  return 0;
+  return exitCode;
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cwctype>
+#include <optional>
 #include <system_error>
 
 #include "CodePage.h"
@@ -9,6 +10,30 @@
 namespace fs = std::filesystem;
 
 namespace platform {
+namespace {
+
+bool Exists(const fs::path& path) {
+  std::error_code ec;
+  return fs::exists(fs::symlink_status(path, ec));
+}
+
+bool SameNoCase(std::wstring_view a, std::wstring_view b) {
+  return std::ranges::equal(a, b, [](wchar_t x, wchar_t y) { return std::towlower(x) == std::towlower(y); });
+}
+
+// The entry of `dir` whose name differs from `name` in case only.
+std::optional<fs::path> FindNoCase(const fs::path& dir, const fs::path& name) {
+  std::wstring wanted = ToWide(name.string());
+  std::error_code ec;
+  for (fs::directory_iterator it(dir.empty() ? fs::path(".") : dir, ec), end; !ec && it != end;
+       it.increment(ec)) {
+    fs::path entry = it->path().filename();
+    if (SameNoCase(ToWide(entry.string()), wanted)) return entry;
+  }
+  return std::nullopt;
+}
+
+}  // namespace
 
 fs::path NativePath(std::wstring_view path) {
   std::wstring out;
@@ -21,14 +46,34 @@ fs::path NativePath(std::wstring_view path) {
   return fs::path(ToNarrow(out));
 }
 
+fs::path ResolvePath(std::wstring_view path) {
+  fs::path native = NativePath(path);
+  if (native.empty() || Exists(native)) return native;
+  fs::path resolved = native.root_path();
+  bool matching = true;
+  for (const fs::path& part : native.relative_path()) {
+    fs::path next = resolved / part;
+    if (matching && !part.empty() && part != "." && part != ".." && !Exists(next)) {
+      std::optional<fs::path> found = FindNoCase(resolved, part);
+      if (found) {
+        next = resolved / *found;
+      } else {
+        matching = false;
+      }
+    }
+    resolved = next;
+  }
+  return resolved;
+}
+
 bool FileExists(std::wstring_view path) {
   std::error_code ec;
-  return !path.empty() && fs::exists(NativePath(path), ec);
+  return !path.empty() && fs::exists(ResolvePath(path), ec);
 }
 
 bool DirectoryExists(std::wstring_view path) {
   std::error_code ec;
-  return !path.empty() && fs::is_directory(NativePath(path), ec);
+  return !path.empty() && fs::is_directory(ResolvePath(path), ec);
 }
 
 bool WildcardMatch(std::wstring_view pattern, std::wstring_view name) {
@@ -64,7 +109,7 @@ std::vector<DirEntry> EnumerateDirectory(std::wstring_view pattern) {
 
   std::vector<DirEntry> entries;
   std::error_code ec;
-  fs::directory_iterator it(NativePath(dir), ec);
+  fs::directory_iterator it(ResolvePath(dir), ec);
   if (ec) return entries;
   for (const wchar_t* dot : {L".", L".."}) {
     if (WildcardMatch(mask, dot)) entries.push_back({dot, true});
@@ -77,6 +122,25 @@ std::vector<DirEntry> EnumerateDirectory(std::wstring_view pattern) {
     entries.push_back({name, it->is_directory(typeEc)});
   }
   return entries;
+}
+
+bool CopyFile(std::wstring_view from, std::wstring_view to, bool failIfExists) {
+  fs::path source = ResolvePath(from);
+  fs::path target = ResolvePath(to);
+  std::error_code ec;
+  if (!fs::is_regular_file(source, ec)) return false;
+  if (failIfExists && Exists(target)) return false;
+  return fs::copy_file(source, target, fs::copy_options::overwrite_existing, ec) && !ec;
+}
+
+bool CreateDirectory(std::wstring_view path) {
+  std::error_code ec;
+  return fs::create_directory(ResolvePath(path), ec) && !ec;
+}
+
+bool DeletePermanently(std::wstring_view path) {
+  std::error_code ec;
+  return !path.empty() && fs::remove_all(ResolvePath(path), ec) > 0 && !ec;
 }
 
 }  // namespace platform

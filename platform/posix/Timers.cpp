@@ -63,9 +63,11 @@ int RunDueTimers(TimerClock::time_point now) {
   return fired;
 }
 
-int ActiveTimerCount() {
+std::vector<TimerInfo> ActiveTimers() {
   std::lock_guard lock(timersMutex);
-  return static_cast<int>(timers.size());
+  std::vector<TimerInfo> active;
+  for (const auto& [id, timer] : timers) active.push_back({id, timer.elapseMs, timer.proc});
+  return active;
 }
 
 bool FindTimer(std::uintptr_t id, TimerInfo* info) {

@@ -8,6 +8,7 @@
 #include "Inspection.h"
 #include "MenuBar.h"
 #include "Model.h"
+#include "SelectionBuffer.h"
 #include "TextPaths.h"
 
 #include <deque>
@@ -60,7 +61,9 @@ struct HostState {
   std::filesystem::path resourcePath;                  // from ProUIResourcepathStore
   std::map<std::string, std::deque<std::optional<std::wstring>>> answers;
   std::map<std::string, ScriptedFailure> failures;
+  std::vector<Model*> pendingErase;  // erased when control returns to the host
   std::vector<CallRecord> callLog;
+  std::vector<Selected> selectionBuffer;
 
   // Lookups of handles the plug-in hands back: null when the session does
   // not know them, without dereferencing them.

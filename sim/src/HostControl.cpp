@@ -87,6 +87,15 @@ void ReturnToHost() {
     state.currentWindow = *state.pendingActivation;
   }
   state.pendingActivation.reset();
+  for (Model* erased : state.pendingErase) {
+    std::erase(state.models, erased);
+    for (Window& window : state.windows) {
+      if (window.model != erased) continue;
+      window.model = nullptr;
+      window.displayed = false;
+    }
+  }
+  state.pendingErase.clear();
 }
 
 // Callbacks run without the host held, as the host's own UI loop calls them.

@@ -21,6 +21,7 @@ class Model {
   std::string document;                 // the model file's JSON text, for readers of further keys
   std::vector<Model*> componentModels;  // parallel to def.components; null: not found
   std::vector<Model*> solids;           // drawings: the solids that could be found
+  bool modified = false;                // changed in session since loaded or saved
 
   // Ids of the components and the other features together, ascending: the
   // host's feature order.

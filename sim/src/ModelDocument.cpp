@@ -1,6 +1,7 @@
 #include "ModelDocument.h"
 
 #include "CodePage.h"
+#include "ModelDataJson.h"
 
 #include <nlohmann/json.hpp>
 
@@ -43,6 +44,7 @@ ModelDef ParseDef(const json& doc) {
         {entry.at("id").get<int>(), entry.contains("type") ? FeatureType(entry["type"]) : L""});
   }
   for (const json& entry : doc.value("solids", json::array())) def.solids.push_back(Wide(entry));
+  ReadModelData(doc, def);
   return def;
 }
 
@@ -86,6 +88,7 @@ std::string ModelDocument(const ModelDef& def) {
     json& solids = doc["solids"] = json::array();
     for (const std::wstring& solid : def.solids) solids.push_back(platform::ToNarrow(solid));
   }
+  WriteModelData(def, doc);
   return doc.dump(2);
 }
 

@@ -1,6 +1,5 @@
 // The JSON text of a model file and the model definition it holds. Readers
-// of keys beyond the definition (parameters, mass, surfaces) parse the text
-// kept in the model themselves.
+// of keys beyond the definition parse the text kept in the model themselves.
 #pragma once
 
 #include "ModelDef.h"

@@ -59,9 +59,9 @@ class RegistrationTest : public testing::Test {
   }
 
   int Initialize() {
-    int before = platform::ActiveTimerCount();
+    size_t before = platform::ActiveTimers().size();
     int result = user_initialize(0, nullptr, nullptr, nullptr, nullptr);
-    timersStarted_ = platform::ActiveTimerCount() - before;
+    timersStarted_ = static_cast<int>(platform::ActiveTimers().size() - before);
     return result;
   }
 

@@ -68,3 +68,47 @@ TEST(Wildcard, FollowsTheSystemRules) {
   EXPECT_TRUE(platform::WildcardMatch(L"*.*", L"noext"));
   EXPECT_FALSE(platform::WildcardMatch(L"*.prt", L"a.prt.1"));
 }
+
+TEST_F(FilesTest, NamesDifferingInCaseOnlyFindTheFileThatExists) {
+  dir_.Write("template/BOM.xls", "book");
+  EXPECT_TRUE(platform::FileExists(Dir() + L"\\TEMPLATE\\bom.xls"));
+  EXPECT_EQ(platform::ResolvePath(Dir() + L"\\Template\\Bom.XLS"), dir_.path() / "template" / "BOM.xls");
+  EXPECT_EQ(Names(Dir() + L"\\TEMPLATE\\*.*").size(), 3u) << ". and .. and BOM.xls";
+  // What does not exist keeps its spelling behind the part that does.
+  EXPECT_EQ(platform::ResolvePath(Dir() + L"\\TEMPLATE\\New\\x.xls"),
+            dir_.path() / "template" / "New" / "x.xls");
+}
+
+TEST_F(FilesTest, ExactSpellingWinsOverAnotherCase) {
+  dir_.Write("Sub2/x", "upper");
+  dir_.Write("sub2/x", "lower");
+  EXPECT_EQ(platform::ResolvePath(Dir() + L"\\sub2\\x"), dir_.path() / "sub2" / "x");
+  EXPECT_EQ(platform::ResolvePath(Dir() + L"\\Sub2\\x"), dir_.path() / "Sub2" / "x");
+}
+
+TEST_F(FilesTest, CopyFileReplacesUnlessToldToFail) {
+  dir_.Write("src.txt", "new");
+  dir_.Write("dst.txt", "old");
+  EXPECT_FALSE(platform::CopyFile(Dir() + L"\\src.txt", Dir() + L"\\dst.txt", true));
+  EXPECT_EQ(dir_.Read("dst.txt"), "old");
+  EXPECT_TRUE(platform::CopyFile(Dir() + L"\\SRC.txt", Dir() + L"\\dst.txt", false));
+  EXPECT_EQ(dir_.Read("dst.txt"), "new");
+  EXPECT_FALSE(platform::CopyFile(Dir() + L"\\missing", Dir() + L"\\x", false));
+  EXPECT_FALSE(platform::CopyFile(Dir() + L"\\sub", Dir() + L"\\x", false)) << "a directory is no file";
+}
+
+TEST_F(FilesTest, CreateDirectoryMakesOneLevelOnce) {
+  EXPECT_TRUE(platform::CreateDirectory(Dir() + L"\\made"));
+  EXPECT_TRUE(platform::DirectoryExists(Dir() + L"\\made"));
+  EXPECT_FALSE(platform::CreateDirectory(Dir() + L"\\made"));
+  EXPECT_FALSE(platform::CreateDirectory(Dir() + L"\\no\\parent"));
+}
+
+TEST_F(FilesTest, DeletePermanentlyRemovesFilesAndTrees) {
+  dir_.Write("sub/deep/f", "x");
+  EXPECT_TRUE(platform::DeletePermanently(Dir() + L"\\A.PRT"));
+  EXPECT_FALSE(fs::exists(dir_.path() / "a.prt"));
+  EXPECT_TRUE(platform::DeletePermanently(Dir() + L"\\sub"));
+  EXPECT_FALSE(fs::exists(dir_.path() / "sub"));
+  EXPECT_FALSE(platform::DeletePermanently(Dir() + L"\\missing"));
+}

@@ -8,6 +8,7 @@
 #include "CodePage.h"
 #include "HostControl.h"
 #include "Inspection.h"
+#include "Timers.h"
 
 namespace fs = std::filesystem;
 
@@ -19,6 +20,13 @@ PluginHost::PluginHost(const TestDir& dir) : workDir_(dir.path() / "work") {
   sim::StartHost({workDir_});
   sim::RegisterApplication(textRoot_, 1);
   protkrt::SetApplTextPath(textRoot_);
+  for (const auto& timer : platform::ActiveTimers()) timersBefore_.insert(timer.id);
+}
+
+PluginHost::~PluginHost() {
+  for (const auto& timer : platform::ActiveTimers()) {
+    if (!timersBefore_.count(timer.id)) platform::KillTimer(nullptr, timer.id);
+  }
 }
 
 ProMdl PluginHost::AddPart(const std::wstring& name) {

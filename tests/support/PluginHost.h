@@ -3,6 +3,8 @@
 // working directory, and models built in code.
 #pragma once
 
+#include <cstdint>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -13,6 +15,11 @@ class PluginHost {
  public:
   // Starts the host in `dir`/work with `dir`/app as the plug-in's text root.
   explicit PluginHost(const TestDir& dir);
+  // Stops the timers the plug-in started meanwhile, so none fires in a later
+  // test of the same process.
+  ~PluginHost();
+  PluginHost(const PluginHost&) = delete;
+  PluginHost& operator=(const PluginHost&) = delete;
 
   std::wstring TextRoot() const { return textRoot_; }
   std::filesystem::path WorkDir() const { return workDir_; }
@@ -28,5 +35,6 @@ class PluginHost {
 
  private:
   std::wstring textRoot_;
+  std::set<std::uintptr_t> timersBefore_;
   std::filesystem::path workDir_;
 };

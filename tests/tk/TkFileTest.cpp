@@ -1,7 +1,14 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "ApplTextPath.h"
+#include "CallLog.h"
+#include "CodePage.h"
+#include "HostControl.h"
 #include "PluginHost.h"
+#include "ProUtil.h"
+#include "ScopedTrash.h"
 #include "TkFile.h"
 
 namespace {
@@ -45,4 +52,133 @@ TEST(TkFileCurDir, ChangesOnlyForANonEmptyDirectoryAndHandsBackTheResult) {
   EXPECT_EQ(file.ChangeCurDir(dir.Wide(), 3), 3);
   EXPECT_NE(file.GetCurDir(), start);
   EXPECT_EQ(file.ChangeCurDir(dir.Wide("missing"), 0), 0) << "the host's refusal is not looked at";
+}
+
+namespace {
+
+class TkFileHostTest : public testing::Test {
+ protected:
+  std::wstring Work(const std::string& relative = "") const { return dir_.Wide("work/" + relative); }
+
+  TestDir dir_;
+  PluginHost host_{dir_};
+  ScopedTrash trash_{dir_};
+  CTkFile file_;
+};
+
+}  // namespace
+
+TEST_F(TkFileHostTest, ChooseDirAnswersTheChoiceOrTheDefaultOnCancel) {
+  sim::PushAnswer("ProDirectoryChoose", L"/picked");
+  EXPECT_EQ(file_.ChooseDir(L"C:\\x"), L"/picked");
+  EXPECT_EQ(sim::CallLog().back().args, (std::vector<std::string>{"", "C:\\x"}));
+  sim::PushAnswer("ProDirectoryChoose", std::nullopt);
+  EXPECT_EQ(file_.ChooseDir(L"C:\\x"), L"C:\\x");
+  std::string current = platform::ToNarrow(file_.GetCurDir());
+  EXPECT_EQ(file_.ChooseDir(L""), L"");
+  EXPECT_EQ(sim::CallLog().back().args, (std::vector<std::string>{"", current}))
+      << "starts in the current one";
+}
+
+TEST_F(TkFileHostTest, GetConfigOptionIsEmptyWhenUnset) {
+  ProName name{L"pro_library_dir"};
+  ProPath value{L"/lib"};
+  ProConfigoptSet(name, value);
+  EXPECT_EQ(file_.GetConfigOption(L"PRO_LIBRARY_DIR"), L"/lib");
+  EXPECT_EQ(file_.GetConfigOption(L"search_path_file"), L"");
+}
+
+TEST_F(TkFileHostTest, ChooseMdlFileCutsTheVersionUnlessKept) {
+  for (const wchar_t* answer : {L"C:\\w\\a.prt.3", L"C:\\w\\a.prt.3", L"C:\\w\\a.prt", L"C:\\w.d\\a.prt"}) {
+    sim::PushAnswer("ProFileMdlfiletypeOpen", answer);
+  }
+  EXPECT_EQ(file_.ChooseMdlFile(L"*.prt,*.asm", L"C:\\w", 0), L"C:\\w\\a.prt");
+  EXPECT_EQ(sim::CallLog().back().name, "ProFileMdlnameParse");
+  EXPECT_EQ(file_.ChooseMdlFile(L"*.prt", L"", 1), L"C:\\w\\a.prt.3");
+  EXPECT_EQ(file_.ChooseMdlFile(L"*.prt", L"", 0), L"C:\\w\\a.prt");
+  EXPECT_EQ(file_.ChooseMdlFile(L"*.prt", L"", 0), L"C:\\w.d\\a") << "a dotted directory costs the extension";
+  EXPECT_EQ(file_.ChooseMdlFile(L"*.prt", L"", 0), L"") << "nothing left to choose: a cancel";
+}
+
+TEST_F(TkFileHostTest, ChooseMdlFileAnswersTheOriginOfAModelPickedInSession) {
+  dir_.Write("work/bolt.prt.4", R"({"type": "part"})");
+  sim::PushAnswer("ProFileMdlfiletypeOpen", L"insession:\\bolt.prt");
+  EXPECT_EQ(file_.ChooseMdlFile(L"*.prt", L"", 1), Work("bolt.prt.4"));
+  sim::PushAnswer("ProFileMdlfiletypeOpen", L"insession:\\bolt.prt");
+  EXPECT_EQ(file_.ChooseMdlFile(L"*.prt", L"", 0), Work("bolt.prt"));
+  sim::PushAnswer("ProFileMdlfiletypeOpen", L"insession:\\ghost.prt");
+  EXPECT_EQ(file_.ChooseMdlFile(L"*.prt", L"", 1), L"");
+}
+
+TEST_F(TkFileHostTest, DelFileToTheTrashLosesNothing) {
+  dir_.Write("work/old.prt.1", "version one");
+  ASSERT_EQ(file_.FileExists(Work("OLD.prt.1")), 1);
+  EXPECT_EQ(file_.DelFile(Work("old.prt.1"), 0), 1);
+  EXPECT_EQ(file_.FileExists(Work("old.prt.1")), 0);
+  ASSERT_TRUE(trash_.Restore("old.prt.1"));
+  EXPECT_EQ(dir_.Read("work/old.prt.1"), "version one");
+}
+
+TEST_F(TkFileHostTest, DelFileOfNothingIsZeroAndPermanentDeletionBypassesTheTrash) {
+  EXPECT_EQ(file_.DelFile(Work("missing.prt"), 0), 0);
+  dir_.Write("work/gone.txt", "x");
+  EXPECT_EQ(file_.DelFile(Work("gone.txt"), 1), 1);
+  EXPECT_EQ(file_.FileExists(Work("gone.txt")), 0);
+  EXPECT_TRUE(trash_.Names().empty());
+}
+
+TEST_F(TkFileHostTest, TextFilesReadByLineAndAppendToFileReplacesTheContents) {
+  dir_.Write("work/r.txt", "d1=10\r\n孔径=5\nlast");
+  std::vector<std::wstring> lines{L"stale"};
+  EXPECT_EQ(file_.ReadLines(Work("r.txt"), lines), 1);
+  EXPECT_EQ(lines, (std::vector<std::wstring>{L"d1=10", L"孔径=5", L"last"}));
+  std::wstring text = L"stale";
+  EXPECT_EQ(file_.ReadFileText(Work("r.txt"), text), 1);
+  EXPECT_EQ(text, L"d1=10\n孔径=5\nlast\n");
+  EXPECT_EQ(file_.ReadLines(L"", lines), 0);
+  EXPECT_TRUE(lines.empty());
+  EXPECT_EQ(file_.ReadFileText(Work("missing.txt"), text), 0);
+  EXPECT_EQ(text, L"");
+
+  EXPECT_EQ(file_.AppendToFile(Work("out.txt"), L"first"), 1);
+  EXPECT_EQ(file_.AppendToFile(Work("out.txt"), L"第二"), 1);
+  EXPECT_EQ(dir_.Read("work/out.txt"), "第二");
+  EXPECT_NE(file_.AppendToFile(Work("no/dir/out.txt"), L"x"), 1);
+}
+
+TEST_F(TkFileHostTest, ListingsOfTheSystem) {
+  for (const char* name : {"m/a.prt", "m/a.prt.1", "m/a.prt.2", "m/b.asm.1", "m/s/t/deep.prt.1"}) {
+    dir_.Write(std::string("work/") + name, "{}");
+  }
+  std::vector<std::wstring> names{L"stale"};
+  file_.ListFiles(Work("m"), names);
+  std::sort(names.begin(), names.end());
+  EXPECT_EQ(names, (std::vector<std::wstring>{L"a.prt", L"a.prt.1", L"a.prt.2", L"b.asm.1"}));
+  EXPECT_EQ(file_.ListFilesByExt(Work("m"), {L"asm", L"PRT"}, names), 1);
+  ASSERT_EQ(names.size(), 3u);
+  EXPECT_EQ(names[0], L"b.asm.1") << "extension by extension";
+  std::vector<std::wstring> dirs{L"kept"};
+  file_.ListSubDirsRecursive(Work("m"), dirs);
+  EXPECT_EQ(dirs, (std::vector<std::wstring>{L"kept", Work("m") + L"\\s", Work("m") + L"\\s\\t"}));
+}
+
+TEST_F(TkFileHostTest, ListingsOfTheHost) {
+  for (const char* name : {"m/a.prt.1", "m/a.prt.2", "m/b.asm.1", "m/notes.txt", "m/s/deep.prt.1"}) {
+    dir_.Write(std::string("work/") + name, "{}");
+  }
+  std::vector<std::wstring> files{L"kept"};
+  EXPECT_EQ(file_.ListMdlFilesRecursive(Work("m"), files, 0), 0);
+  EXPECT_EQ(files,
+            (std::vector<std::wstring>{L"kept", Work("m/a.prt.1"), Work("m/a.prt.2"), Work("m/b.asm.1"),
+                                       Work("m/notes.txt"), Work("m/s/deep.prt.1")}));
+  files.clear();
+  file_.ListMdlFilesRecursive(Work("m"), files, 1);
+  EXPECT_EQ(files.size(), 4u) << "latest versions only";
+
+  std::vector<std::wstring> names{L"kept"};
+  EXPECT_EQ(file_.ListMdlsInDir(Work("m"), names, {L"prt", L"asm"}), 0);
+  EXPECT_EQ(names, (std::vector<std::wstring>{L"kept", L"a.prt.2", L"b.asm.1"}));
+  EXPECT_EQ(sim::CallLog().back().name, "ProArrayFree");
+  EXPECT_EQ(file_.ListMdlsInDir(Work("nowhere"), names, {L"prt"}), 0);
+  EXPECT_EQ(names.size(), 3u);
 }

@@ -1,0 +1,77 @@
+// The outer size of a row's model.
+#include <cmath>
+#include <cwchar>
+
+#include "ProAsmcomp.h"
+#include "ProSolid.h"
+#include "TkBOM.h"
+
+namespace {
+
+std::wstring Fixed(double value, int decimals) {
+  std::wstring format = L"%." + std::to_wstring(decimals) + L"lf";
+  std::wstring text(512, L'\0');
+  int written = std::swprintf(text.data(), text.size(), format.c_str(), value);
+  text.resize(written < 0 ? 0 : written);
+  return text;
+}
+
+}  // namespace
+
+int TkBOM::GetPartOutSize(const BomMdl& row, std::wstring& text, int sortDims, int decimals,
+                          const std::wstring& separator, const std::wstring& prefix,
+                          const std::wstring& suffix) const {
+  const std::wstring function = L"GetPartOutSize";
+  text.clear();
+  std::wstring name = model_.GetMdlName(row.mdl);
+  int type = 0;
+  if (int status =
+          log_.LogStatus(Tag(function, L"GetMdlType; MdlName: " + name), model_.GetMdlType(row.mdl, type)))
+    return status;
+  if (row.cmps.empty() || row.cmps[0].path.table_num > PRO_MAX_ASSEM_LEVEL || !row.cmps[0].path.owner)
+    return log_.LogStatus(Tag(function, name + L": Cmppath Error!"), PRO_TK_BAD_INPUTS);
+
+  ProAsmcomppath path = row.cmps[0].path;
+  std::array<double, 6> box{};
+  int status = 0;
+  if (type == CTkModel::kPart) {
+    status = log_.LogStatus(Tag(function, L"GetSolidOutLine"), model_.GetSolidOutLine(row.mdl, box));
+  } else {
+    wchar_t ids[120];
+    std::swprintf(ids, 120, L"IDNum = %d; ID: %d, %d, %d, %d, %d", path.table_num, path.comp_id_table[0],
+                  path.comp_id_table[1], path.comp_id_table[2], path.comp_id_table[3], path.comp_id_table[4]);
+    log_.LogStatus(Tag(function, ids), 0);
+    ProMatrix matrix;
+    status = log_.LogStatus(Tag(function, L"ProAsmcomppathTrfGet"),
+                            ProAsmcomppathTrfGet(&path, PRO_B_FALSE, matrix));
+    if (status != PRO_TK_NO_ERROR) return status;
+    ProSolidOutlExclTypes excludes[] = {PRO_OUTL_EXC_FACETS, PRO_OUTL_EXC_ALL_CRVS};
+    Pro3dPnt outline[2];
+    status =
+        log_.LogStatus(Tag(function, L"ProSolidOutlineCompute"),
+                       ProSolidOutlineCompute(static_cast<ProSolid>(row.mdl), matrix, excludes, 2, outline));
+    for (int axis = 0; axis < 3; ++axis) {
+      box[axis] = outline[0][axis];
+      box[axis + 3] = outline[1][axis];
+    }
+  }
+  if (status != PRO_TK_NO_ERROR) return status;
+
+  double sizes[3] = {std::fabs(box[3] - box[0]), std::fabs(box[4] - box[1]), std::fabs(box[5] - box[2])};
+  double shown[3] = {sizes[0], sizes[1], sizes[2]};
+  if (sortDims) {
+    // Repeated choice of the smallest left; a taken place is marked by a
+    // size no part has.
+    for (double& next : shown) {
+      int smallest = 0;
+      for (int i = 1; i < 3; ++i) {
+        if (sizes[i] < sizes[smallest]) smallest = i;
+      }
+      next = sizes[smallest];
+      sizes[smallest] = 999999999.0;
+    }
+  }
+  text = prefix + Fixed(shown[0], decimals) + separator + Fixed(shown[1], decimals) + separator +
+         Fixed(shown[2], decimals) + suffix;
+  return 0;
+}

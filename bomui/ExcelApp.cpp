@@ -1,0 +1,79 @@
+#include "ExcelApp.h"
+
+#include <fstream>
+
+#include "CodePage.h"
+#include "Files.h"
+#include "Shell.h"
+
+ExcelApp::ExcelApp() = default;
+
+ExcelApp::~ExcelApp() { CloseAll(); }
+
+int ExcelApp::StartExcel(int /*visible*/) {
+  started_ = true;
+  return 1;
+}
+
+int ExcelApp::OpenWorkbook(const std::wstring& path) {
+  try {
+    workbook_ = workbook::OpenWorkbook(platform::ResolvePath(path));
+  } catch (const workbook::Error&) {
+    return 0;
+  }
+  return 1;
+}
+
+int ExcelApp::NewFromTemplate(const std::wstring& templatePath) {
+  if (!started_ || !FileAccessible(templatePath)) return 0;
+  return OpenWorkbook(templatePath);
+}
+
+workbook::Workbook& ExcelApp::ActiveWorkbook() {
+  if (!workbook_) throw workbook::Error("no workbook is open");
+  return *workbook_;
+}
+
+int ExcelApp::SetCellText(const std::wstring& sheet, int row, int column, const std::wstring& text) {
+  ActiveWorkbook().SetCellText(sheet, row, column, text);
+  return 1;
+}
+
+int ExcelApp::GetCellText(const std::wstring& sheet, int row, int column, std::wstring& text) {
+  text.clear();  // stays empty when the read throws
+  text = ActiveWorkbook().GetCellText(sheet, row, column);
+  return 1;
+}
+
+int ExcelApp::SaveWorkbookAs(const std::wstring& directory, const std::wstring& name) {
+  workbook::Workbook& active = ActiveWorkbook();
+  std::wstring path = directory;
+  if (path.empty() || path.back() != L'\\') path += L'\\';
+  path += name;
+  path += active.format() == workbook::Format::Xlsx ? L".xlsx" : L".xls";
+  active.SaveAs(platform::ResolvePath(path));
+  return 1;
+}
+
+void ExcelApp::CloseAll() {
+  workbook_.reset();
+  started_ = false;
+}
+
+int ExcelApp::FileAccessible(const std::wstring& path) { return platform::FileExists(path) ? 1 : 0; }
+
+int ExcelApp::OpenFileInShell(const std::wstring& path) {
+  if (!FileAccessible(path)) return 0;
+  platform::ShellOpen(path, platform::kSwShowNormal);
+  return 1;
+}
+
+int ExcelApp::AppendLine(const std::wstring& path, const std::wstring& text, int create) {
+  std::ios::openmode mode = std::ios::out;
+  mode |= create || !FileAccessible(path) ? std::ios::trunc : std::ios::in;
+  std::ofstream out(platform::ResolvePath(path), mode);
+  if (!out) return 0;
+  out.seekp(0, std::ios::end);
+  out << platform::ToNarrow(text);
+  return 1;
+}

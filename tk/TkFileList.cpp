@@ -1,0 +1,104 @@
+// Directory listings of CTkFile: the system's enumeration and the host's.
+#include "TkFile.h"
+
+#include "Files.h"
+#include "ProArray.h"
+#include "ProUtil.h"
+#include "TkText.h"
+
+namespace {
+
+bool IsDotEntry(const std::wstring& name) { return name == L"." || name == L".."; }
+
+// Two host arrays of paths for one ProFilesList, freed with the object.
+class HostPathLists {
+ public:
+  HostPathLists() {
+    ProArrayAlloc(0, sizeof(ProPath), 1, reinterpret_cast<ProArray*>(&files));
+    ProArrayAlloc(0, sizeof(ProPath), 1, reinterpret_cast<ProArray*>(&directories));
+  }
+  ~HostPathLists() {
+    if (files) ProArrayFree(reinterpret_cast<ProArray*>(&files));
+    if (directories) ProArrayFree(reinterpret_cast<ProArray*>(&directories));
+  }
+  HostPathLists(const HostPathLists&) = delete;
+  HostPathLists& operator=(const HostPathLists&) = delete;
+
+  ProError List(const std::wstring& directory, const std::wstring& filter, int option) {
+    ProPath path{};
+    tktext::CopyToBuffer(path, directory);
+    ProLine line{};
+    tktext::CopyToBuffer(line, filter);
+    return ProFilesList(path, line, static_cast<ProFileListOpt>(option), &files, &directories);
+  }
+
+  static std::vector<std::wstring> Texts(ProPath* paths) {
+    std::vector<std::wstring> texts;
+    int count = 0;
+    if (paths && ProArraySizeGet(paths, &count) == PRO_TK_NO_ERROR) {
+      for (int i = 0; i < count; ++i) texts.emplace_back(paths[i]);
+    }
+    return texts;
+  }
+
+  ProPath* files = nullptr;
+  ProPath* directories = nullptr;
+};
+
+}  // namespace
+
+int CTkFile::ListFiles(const std::wstring& directory, std::vector<std::wstring>& names) const {
+  names.clear();
+  for (const platform::DirEntry& entry : platform::EnumerateDirectory(directory + L"\\*.*")) {
+    if (!entry.isDirectory) names.push_back(entry.name);
+  }
+  return 1;
+}
+
+int CTkFile::ListFilesByExt(const std::wstring& directory, const std::vector<std::wstring>& extensions,
+                            std::vector<std::wstring>& names) const {
+  names.clear();
+  for (const std::wstring& extension : extensions) {
+    for (const platform::DirEntry& entry :
+         platform::EnumerateDirectory(directory + L"\\*." + extension + L".*")) {
+      if (!IsDotEntry(entry.name)) names.push_back(entry.name);
+    }
+  }
+  return 1;
+}
+
+int CTkFile::ListSubDirsRecursive(const std::wstring& directory,
+                                  std::vector<std::wstring>& directories) const {
+  for (const platform::DirEntry& entry : platform::EnumerateDirectory(directory + L"\\*.*")) {
+    if (!entry.isDirectory || IsDotEntry(entry.name)) continue;
+    std::wstring subdirectory = directory + L"\\" + entry.name;
+    directories.push_back(subdirectory);
+    ListSubDirsRecursive(subdirectory, directories);
+  }
+  return 1;
+}
+
+int CTkFile::ListMdlFilesRecursive(const std::wstring& directory, std::vector<std::wstring>& files,
+                                   int versionFlag) const {
+  std::vector<std::wstring> subdirectories;
+  {
+    HostPathLists lists;
+    lists.List(directory, L"*.*", versionFlag);
+    for (const std::wstring& file : HostPathLists::Texts(lists.files)) files.push_back(file);
+    subdirectories = HostPathLists::Texts(lists.directories);
+  }
+  for (const std::wstring& subdirectory : subdirectories)
+    ListMdlFilesRecursive(subdirectory, files, versionFlag);
+  return 0;
+}
+
+int CTkFile::ListMdlsInDir(const std::wstring& directory, std::vector<std::wstring>& names,
+                           const std::vector<std::wstring>& extensions) const {
+  std::wstring filter;
+  for (const std::wstring& extension : extensions) filter += (filter.empty() ? L"*." : L",*.") + extension;
+  HostPathLists lists;
+  if (lists.List(directory, filter, PRO_FILE_LIST_LATEST) != PRO_TK_NO_ERROR) return 0;
+  for (const std::wstring& file : HostPathLists::Texts(lists.files))
+    names.push_back(file.substr(file.rfind(L'/') + 1));
+  return 0;
+}

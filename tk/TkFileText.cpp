@@ -1,0 +1,58 @@
+// Existence, deletion and plain text files of CTkFile.
+#include "TkFile.h"
+
+#include "CodePage.h"
+#include "Files.h"
+#include "Trash.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <fstream>
+
+namespace {
+
+// Text mode as the system's file layer has it: a line ends at "\n", and a
+// "\r" before it belongs to the line end.
+bool ReadEachLine(const std::wstring& path, std::vector<std::wstring>& lines) {
+  if (path.empty()) return false;
+  std::ifstream in(platform::ResolvePath(path), std::ios::binary);
+  if (!in) return false;
+  std::string line;
+  while (std::getline(in, line)) {
+    if (!line.empty() && line.back() == '\r') line.pop_back();
+    lines.push_back(platform::ToWide(line));
+  }
+  return true;
+}
+
+}  // namespace
+
+int CTkFile::FileExists(const std::wstring& path) const { return platform::FileExists(path) ? 1 : 0; }
+
+int CTkFile::DelFile(const std::wstring& path, int permanent) const {
+  bool deleted = permanent ? platform::DeletePermanently(path) : platform::MoveToTrash(path);
+  return deleted ? 1 : 0;
+}
+
+int CTkFile::ReadLines(const std::wstring& path, std::vector<std::wstring>& lines) const {
+  lines.clear();
+  return ReadEachLine(path, lines) ? 1 : 0;
+}
+
+int CTkFile::ReadFileText(const std::wstring& path, std::wstring& text) const {
+  text.clear();
+  std::vector<std::wstring> lines;
+  if (!ReadEachLine(path, lines)) return 0;
+  for (const std::wstring& line : lines) text += line + L"\n";
+  return 1;
+}
+
+int CTkFile::AppendToFile(const std::wstring& path, const std::wstring& text) const {
+  std::FILE* file = std::fopen(platform::ResolvePath(path).c_str(), "wb");
+  if (!file) return errno != 0 ? errno : -1;
+  std::string bytes = platform::ToNarrow(text);
+  std::fseek(file, 0, SEEK_END);
+  std::fwrite(bytes.data(), 1, bytes.size(), file);
+  std::fclose(file);
+  return 1;
+}

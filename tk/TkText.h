@@ -1,0 +1,26 @@
+// Text helpers shared inside the model access layer.
+#pragma once
+
+#include <cstddef>
+#include <cwchar>
+#include <string>
+
+namespace tktext {
+
+// Into one of the host's fixed buffers, cut to fit and always terminated.
+template <std::size_t N>
+void CopyToBuffer(wchar_t (&buffer)[N], const std::wstring& text) {
+  std::wcsncpy(buffer, text.c_str(), N - 1);
+  buffer[N - 1] = L'\0';
+}
+
+// A path holding more than one dot loses everything from its last dot:
+// a.prt.3 becomes a.prt. The whole path counts, so a dotted directory costs
+// an unversioned file its extension.
+inline std::wstring CutLastDotOfSeveral(std::wstring path) {
+  std::size_t last = path.rfind(L'.');
+  if (path.find(L'.') != last) path.erase(last);
+  return path;
+}
+
+}  // namespace tktext

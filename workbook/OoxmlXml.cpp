@@ -1,0 +1,115 @@
+#include "OoxmlXml.h"
+
+#include <cstdio>
+#include <cwctype>
+#include <sstream>
+
+#include "Error.h"
+#include "TextCodec.h"
+
+namespace workbook::ooxml {
+namespace {
+
+constexpr unsigned kParseFlags = pugi::parse_default | pugi::parse_declaration | pugi::parse_ws_pcdata |
+                                 pugi::parse_comments | pugi::parse_pi;
+
+bool IsHex(wchar_t c) {
+  return (c >= L'0' && c <= L'9') || (c >= L'A' && c <= L'F') || (c >= L'a' && c <= L'f');
+}
+
+bool IsEscape(std::wstring_view text, size_t at) {
+  if (at + 7 > text.size() || text.substr(at, 2) != L"_x" || text[at + 6] != L'_') return false;
+  for (size_t i = at + 2; i < at + 6; ++i) {
+    if (!IsHex(text[i])) return false;
+  }
+  return true;
+}
+
+std::wstring Unescape(std::wstring_view text) {
+  std::wstring out;
+  for (size_t i = 0; i < text.size(); ++i) {
+    if (IsEscape(text, i)) {
+      out += static_cast<wchar_t>(std::stoul(std::wstring(text.substr(i + 2, 4)), nullptr, 16));
+      i += 6;
+    } else {
+      out += text[i];
+    }
+  }
+  return out;
+}
+
+std::wstring Escape(std::wstring_view text) {
+  std::wstring out;
+  for (size_t i = 0; i < text.size(); ++i) {
+    wchar_t c = text[i];
+    bool control = c < 0x20 && c != L'\t' && c != L'\n' && c != L'\r';
+    if (control || c == 0xFFFE || c == 0xFFFF || (c == L'_' && IsEscape(text, i))) {
+      wchar_t escaped[8];
+      std::swprintf(escaped, 8, L"_x%04X_", static_cast<unsigned>(c));
+      out += escaped;
+    } else {
+      out += c;
+    }
+  }
+  return out;
+}
+
+std::wstring TextOf(pugi::xml_node t) { return Unescape(FromUtf8(t.text().get())); }
+
+}  // namespace
+
+void ParsePart(pugi::xml_document& document, const Bytes& xml, std::string_view part) {
+  pugi::xml_parse_result result =
+      document.load_buffer(xml.data(), xml.size(), kParseFlags, pugi::encoding_auto);
+  if (!result || !document.document_element()) {
+    throw Error("damaged workbook: " + std::string(part) + " is not well-formed XML (" +
+                result.description() + ")");
+  }
+}
+
+Bytes WritePart(const pugi::xml_document& document) {
+  std::ostringstream out;
+  document.save(out, "", pugi::format_raw, pugi::encoding_utf8);
+  std::string text = out.str();
+  return Bytes(text.begin(), text.end());
+}
+
+std::string_view LocalName(pugi::xml_node node) {
+  std::string_view name = node.name();
+  size_t colon = name.find(':');
+  return colon == std::string_view::npos ? name : name.substr(colon + 1);
+}
+
+pugi::xml_node Child(pugi::xml_node parent, std::string_view localName) {
+  for (pugi::xml_node child : parent.children()) {
+    if (child.type() == pugi::node_element && LocalName(child) == localName) return child;
+  }
+  return {};
+}
+
+pugi::xml_node NewChild(pugi::xml_node parent, std::string_view localName, pugi::xml_node before) {
+  std::string_view parentName = parent.name();
+  size_t colon = parentName.find(':');
+  std::string name = colon == std::string_view::npos ? "" : std::string(parentName.substr(0, colon + 1));
+  name += localName;
+  return before ? parent.insert_child_before(name.c_str(), before) : parent.append_child(name.c_str());
+}
+
+std::wstring ItemText(pugi::xml_node item) {
+  if (pugi::xml_node t = Child(item, "t")) return TextOf(t);
+  std::wstring text;
+  for (pugi::xml_node run : item.children()) {
+    if (LocalName(run) == "r") text += TextOf(Child(run, "t"));
+  }
+  return text;
+}
+
+void SetItemText(pugi::xml_node t, std::wstring_view text) {
+  std::wstring escaped = Escape(text);
+  bool keepBlanks = !escaped.empty() && (std::iswspace(escaped.front()) || std::iswspace(escaped.back()) ||
+                                         escaped.find(L"  ") != std::wstring::npos);
+  if (keepBlanks) t.append_attribute("xml:space") = "preserve";
+  t.text().set(ToUtf8(escaped).c_str());
+}
+
+}  // namespace workbook::ooxml

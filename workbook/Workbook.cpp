@@ -1,0 +1,66 @@
+#include "Workbook.h"
+
+#include <fstream>
+#include <iterator>
+
+#include "XlsWorkbook.h"
+#include "XlsxWorkbook.h"
+
+namespace workbook {
+namespace {
+
+bool StartsWith(const Bytes& image, std::initializer_list<uint8_t> magic) {
+  return image.size() >= magic.size() && std::equal(magic.begin(), magic.end(), image.begin());
+}
+
+}  // namespace
+
+void Workbook::SaveAs(const std::filesystem::path& file) const {
+  Bytes image = Save();
+  // Written beside the target and renamed over it, so that a failed write
+  // leaves neither a partial file nor a damaged old one.
+  std::filesystem::path partial = file;
+  partial += ".partial";
+  {
+    std::ofstream out(partial, std::ios::binary | std::ios::trunc);
+    out.write(reinterpret_cast<const char*>(image.data()), static_cast<std::streamsize>(image.size()));
+    out.close();
+    if (!out) {
+      std::error_code ignored;
+      std::filesystem::remove(partial, ignored);
+      throw Error("cannot write " + file.string());
+    }
+  }
+  std::error_code error;
+  std::filesystem::rename(partial, file, error);
+  if (error) {
+    std::filesystem::remove(partial, error);
+    throw Error("cannot write " + file.string());
+  }
+}
+
+std::unique_ptr<Workbook> OpenWorkbook(const std::filesystem::path& file) {
+  std::ifstream in(file, std::ios::binary);
+  if (!in) throw Error("cannot open " + file.string());
+  Bytes image((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+  if (in.bad()) throw Error("cannot read " + file.string());
+  try {
+    return LoadWorkbook(image);
+  } catch (const Error& error) {
+    throw Error(file.string() + ": " + error.what());
+  }
+}
+
+std::unique_ptr<Workbook> LoadWorkbook(const Bytes& image) {
+  if (StartsWith(image, {0xD0, 0xCF, 0x11, 0xE0, 0xA1, 0xB1, 0x1A, 0xE1})) {
+    return std::make_unique<XlsWorkbook>(image);
+  }
+  if (StartsWith(image, {'P', 'K', 0x03, 0x04})) return std::make_unique<XlsxWorkbook>(image);
+  // A bare BIFF2 to BIFF4 stream starts with its BOF record.
+  if (StartsWith(image, {0x09, 0x00}) || StartsWith(image, {0x09, 0x02}) || StartsWith(image, {0x09, 0x04})) {
+    throw Error("a workbook older than Excel 97 (BIFF2 to BIFF4) is not supported");
+  }
+  throw Error("not an Excel workbook");
+}
+
+}  // namespace workbook

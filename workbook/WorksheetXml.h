@@ -1,0 +1,44 @@
+// One worksheet part of an .xlsx package: its cells found and made by row and
+// column, in the order SpreadsheetML requires. The rest of the part is kept.
+#pragma once
+
+#include <pugixml.hpp>
+
+#include <map>
+#include <optional>
+#include <string_view>
+
+#include "Bytes.h"
+
+namespace workbook::ooxml {
+
+class WorksheetXml {
+ public:
+  // Throws Error naming `part` when it is not a worksheet.
+  WorksheetXml(const Bytes& xml, std::string_view part);
+
+  // Rows and columns count from 1. A null node when there is no such cell.
+  pugi::xml_node FindCell(int row, int column) const;
+  // The cell, made with `style` when it is missing; the sheet's dimension
+  // grows to hold it.
+  pugi::xml_node MakeCell(int row, int column, std::optional<int> style);
+  // What a new cell takes: its row's format, else its column's.
+  std::optional<int> StyleForNewCell(int row, int column) const;
+
+  Bytes Write() const;
+
+ private:
+  struct Row {
+    pugi::xml_node node;
+    std::map<int, pugi::xml_node> cells;
+  };
+
+  pugi::xml_node MakeRow(int row);
+  void ExtendRange(pugi::xml_attribute range, int row, int column, bool columnsOnly);
+
+  pugi::xml_document document_;
+  pugi::xml_node sheetData_;
+  std::map<int, Row> rows_;
+};
+
+}  // namespace workbook::ooxml

@@ -1,0 +1,273 @@
+#include "XlsxWorkbook.h"
+
+#include <algorithm>
+#include <charconv>
+
+#include "CellValues.h"
+#include "OoxmlXml.h"
+#include "TextCodec.h"
+
+namespace workbook {
+
+using namespace ooxml;
+
+namespace {
+
+constexpr int kRowLimit = 1048576;
+constexpr int kColumnLimit = 16384;
+constexpr char kContentTypesPart[] = "[Content_Types].xml";
+constexpr char kSharedStringsType[] =
+    "http://schemas.openxmlformats.org/officeDocument/2006/relationships/sharedStrings";
+constexpr char kSharedStringsContentType[] =
+    "application/vnd.openxmlformats-officedocument.spreadsheetml.sharedStrings+xml";
+constexpr char kSharedStringsXml[] =
+    "<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"yes\"?>\n"
+    "<sst xmlns=\"http://schemas.openxmlformats.org/spreadsheetml/2006/main\" count=\"0\" "
+    "uniqueCount=\"0\"/>";
+
+std::string Quoted(std::wstring_view name) { return "\"" + ToUtf8(name) + "\""; }
+
+const Bytes& PartData(const ZipPackage& package, const std::string& part) {
+  const ZipPart* found = package.Find(part);
+  if (!found) throw Error("damaged workbook: the package has no part " + part);
+  return found->data;
+}
+
+std::string FolderOf(const std::string& part) {
+  size_t slash = part.rfind('/');
+  return slash == std::string::npos ? "" : part.substr(0, slash + 1);
+}
+
+std::string NumberText(double value) {
+  char buffer[32];
+  auto result = std::to_chars(buffer, buffer + sizeof buffer, value);
+  return std::string(buffer, result.ptr);
+}
+
+// The relationship id of a <sheet>: r:id, whatever prefix names the
+// relationships namespace.
+std::string SheetRelationshipId(pugi::xml_node sheet) {
+  for (pugi::xml_attribute attribute : sheet.attributes()) {
+    std::string_view name = attribute.name();
+    if (name.size() > 3 && name.substr(name.size() - 3) == ":id") return attribute.value();
+  }
+  return "";
+}
+
+void SetCount(pugi::xml_node root, const char* name, long long value) {
+  if (pugi::xml_attribute attribute = root.attribute(name)) attribute = std::max(0LL, value);
+}
+
+}  // namespace
+
+XlsxWorkbook::XlsxWorkbook(const Bytes& image) : package_(ZipPackage::Read(image)) {
+  pugi::xml_document packageRelations;
+  ParsePart(packageRelations, PartData(package_, "_rels/.rels"), "_rels/.rels");
+  for (const Relationship& relationship : ReadRelationships(packageRelations, "")) {
+    if (IsType(relationship, "officeDocument")) workbookPart_ = relationship.part;
+  }
+  if (workbookPart_.empty()) throw Error("not a spreadsheet: the package names no workbook");
+
+  pugi::xml_document workbook;
+  ParsePart(workbook, PartData(package_, workbookPart_), workbookPart_);
+  if (LocalName(workbook.document_element()) != "workbook")
+    throw Error("not a spreadsheet: " + workbookPart_);
+  std::string relationsPart = RelationshipsPartOf(workbookPart_);
+  ParsePart(workbookRelations_, PartData(package_, relationsPart), relationsPart);
+  relations_ = ReadRelationships(workbookRelations_, workbookPart_);
+
+  for (pugi::xml_node sheet : Child(workbook.document_element(), "sheets").children()) {
+    if (LocalName(sheet) != "sheet") continue;
+    std::string id = SheetRelationshipId(sheet);
+    auto relationship =
+        std::find_if(relations_.begin(), relations_.end(), [&](const Relationship& r) { return r.id == id; });
+    if (relationship == relations_.end()) throw Error("damaged workbook: a sheet has no relationship");
+    Sheet entry{FromUtf8(sheet.attribute("name").value()), relationship->part, nullptr};
+    if (IsType(*relationship, "worksheet")) {
+      entry.cells = std::make_unique<WorksheetXml>(PartData(package_, entry.part), entry.part);
+    }
+    sheets_.push_back(std::move(entry));
+  }
+  for (const Relationship& relationship : relations_) {
+    if (IsType(relationship, "sharedStrings")) sharedStringsPart_ = relationship.part;
+    if (IsType(relationship, "styles")) ReadStyles(relationship.part);
+  }
+  ReadSharedStrings();
+}
+
+void XlsxWorkbook::ReadSharedStrings() {
+  if (sharedStringsPart_.empty()) return;
+  ParsePart(sharedStrings_, PartData(package_, sharedStringsPart_), sharedStringsPart_);
+  for (pugi::xml_node item : sharedStrings_.document_element().children()) {
+    if (LocalName(item) != "si") continue;
+    strings_.push_back(ItemText(item));
+    if (Child(item, "t")) plainStrings_.emplace(strings_.back(), static_cast<uint32_t>(strings_.size() - 1));
+  }
+}
+
+void XlsxWorkbook::ReadStyles(const std::string& part) {
+  pugi::xml_document styles;
+  ParsePart(styles, PartData(package_, part), part);
+  pugi::xml_node root = styles.document_element();
+  for (pugi::xml_node format : Child(root, "numFmts").children()) {
+    if (LocalName(format) == "numFmt" && IsTextFormatCode(FromUtf8(format.attribute("formatCode").value()))) {
+      textNumberFormats_.insert(format.attribute("numFmtId").as_int());
+    }
+  }
+  for (pugi::xml_node xf : Child(root, "cellXfs").children()) {
+    if (LocalName(xf) == "xf") numberFormatOfStyle_.push_back(xf.attribute("numFmtId").as_int());
+  }
+}
+
+std::vector<std::wstring> XlsxWorkbook::SheetNames() const {
+  std::vector<std::wstring> names;
+  for (const Sheet& sheet : sheets_) names.push_back(sheet.name);
+  return names;
+}
+
+const XlsxWorkbook::Sheet& XlsxWorkbook::FindWorksheet(std::wstring_view name) const {
+  for (const Sheet& sheet : sheets_) {
+    if (!SameSheetName(sheet.name, name)) continue;
+    if (!sheet.cells) throw Error("sheet " + Quoted(name) + " is not a worksheet");
+    return sheet;
+  }
+  throw Error("the workbook has no sheet named " + Quoted(name));
+}
+
+bool XlsxWorkbook::IsTextFormat(int style) const {
+  if (style < 0 || static_cast<size_t>(style) >= numberFormatOfStyle_.size()) return false;
+  int numberFormat = numberFormatOfStyle_[style];
+  return numberFormat == kBuiltInTextFormat || textNumberFormats_.count(numberFormat);
+}
+
+uint32_t XlsxWorkbook::AddSharedString(const std::wstring& text) {
+  ++stringReferenceChange_;
+  auto found = plainStrings_.find(text);
+  if (found != plainStrings_.end()) return found->second;
+  if (sharedStringsPart_.empty()) {
+    sharedStringsPart_ = FolderOf(workbookPart_) + "sharedStrings.xml";
+    ParsePart(sharedStrings_, Bytes(kSharedStringsXml, kSharedStringsXml + sizeof kSharedStringsXml - 1),
+              sharedStringsPart_);
+  }
+  pugi::xml_node item = NewChild(sharedStrings_.document_element(), "si");
+  SetItemText(NewChild(item, "t"), text);
+  strings_.push_back(text);
+  sharedStringsChanged_ = true;
+  return plainStrings_.emplace(text, static_cast<uint32_t>(strings_.size() - 1)).first->second;
+}
+
+void XlsxWorkbook::SetCellText(std::wstring_view sheetName, int row, int column, std::wstring_view text) {
+  Sheet& sheet = const_cast<Sheet&>(FindWorksheet(sheetName));
+  CheckCellRange(row, column, kRowLimit, kColumnLimit);
+  pugi::xml_node cell = sheet.cells->FindCell(row, column);
+  pugi::xml_node formula = Child(cell, "f");
+  std::string_view formulaType = formula.attribute("t").value();
+  if (formulaType == "array" || (formulaType == "shared" && formula.attribute("ref"))) {
+    throw Error("cell (row " + std::to_string(row) + ", column " + std::to_string(column) + ") of sheet " +
+                Quoted(sheetName) + " belongs to an array or shared formula and cannot be overwritten");
+  }
+
+  std::optional<int> newStyle = cell ? std::nullopt : sheet.cells->StyleForNewCell(row, column);
+  int style = cell ? cell.attribute("s").as_int() : newStyle.value_or(0);
+  std::optional<double> number = IsTextFormat(style) ? std::nullopt : ParseTypedNumber(text);
+  if (!cell) cell = sheet.cells->MakeCell(row, column, newStyle);
+
+  if (std::string_view(cell.attribute("t").value()) == "s") --stringReferenceChange_;
+  cell.remove_attribute("t");
+  for (const char* child : {"f", "v", "is"}) {
+    while (pugi::xml_node old = Child(cell, child)) cell.remove_child(old);
+  }
+  if (!text.empty()) {
+    pugi::xml_node value = NewChild(cell, "v", cell.first_child());
+    if (number) {
+      value.text().set(NumberText(*number).c_str());
+    } else {
+      cell.append_attribute("t") = "s";
+      value.text().set(AddSharedString(std::wstring(text)));
+    }
+  }
+  sheet.changed = true;
+}
+
+std::wstring XlsxWorkbook::GetCellText(std::wstring_view sheetName, int row, int column) const {
+  const Sheet& sheet = FindWorksheet(sheetName);
+  CheckCellRange(row, column, kRowLimit, kColumnLimit);
+  pugi::xml_node cell = sheet.cells->FindCell(row, column);
+  std::string_view type = cell.attribute("t").value();
+  std::string_view value = Child(cell, "v").text().get();
+  if (type == "s") {
+    unsigned long index = 0;
+    auto [end, error] = std::from_chars(value.data(), value.data() + value.size(), index);
+    return error == std::errc() && index < strings_.size() ? strings_[index] : L"";
+  }
+  if (type == "inlineStr") return ItemText(Child(cell, "is"));
+  if (type == "b") return value == "1" ? L"TRUE" : L"FALSE";
+  if (type == "str" || type == "e" || type == "d") return FromUtf8(value);
+  double number = 0;
+  auto [end, error] = std::from_chars(value.data(), value.data() + value.size(), number);
+  if (error == std::errc() && end == value.data() + value.size()) return FormatNumber(number);
+  return FromUtf8(value);
+}
+
+Bytes XlsxWorkbook::Save() const {
+  ZipPackage package = package_;
+  bool anyChanged = false;
+  for (const Sheet& sheet : sheets_) {
+    if (!sheet.changed) continue;
+    anyChanged = true;
+    package.Find(sheet.part)->data = sheet.cells->Write();
+  }
+  if (!anyChanged) return package.Write();
+
+  pugi::xml_document relations;
+  relations.reset(workbookRelations_);
+  pugi::xml_document contentTypes;
+  ParsePart(contentTypes, PartData(package, kContentTypesPart), kContentTypesPart);
+  pugi::xml_node types = contentTypes.document_element();
+  bool packageChanged = false;
+
+  // Excel rebuilds a missing calculation chain; a stale one it reports as damage.
+  for (const Relationship& relationship : relations_) {
+    if (!IsType(relationship, "calcChain")) continue;
+    package.Remove(relationship.part);
+    packageChanged = true;
+    relations.document_element().remove_child(
+        relations.document_element().find_child_by_attribute("Id", relationship.id.c_str()));
+    for (pugi::xml_node type : types.children()) {
+      if (LocalName(type) == "Override" &&
+          ResolveTarget("", type.attribute("PartName").value()) == relationship.part) {
+        types.remove_child(type);
+        break;
+      }
+    }
+  }
+
+  if (sharedStringsChanged_ || stringReferenceChange_ != 0) {
+    pugi::xml_document strings;
+    strings.reset(sharedStrings_);
+    pugi::xml_node root = strings.document_element();
+    SetCount(root, "uniqueCount", static_cast<long long>(strings_.size()));
+    SetCount(root, "count", root.attribute("count").as_llong() + stringReferenceChange_);
+    if (ZipPart* part = package.Find(sharedStringsPart_)) {
+      part->data = WritePart(strings);
+    } else {
+      package.Add(sharedStringsPart_, WritePart(strings));
+      packageChanged = true;
+      pugi::xml_node relationship = NewChild(relations.document_element(), "Relationship");
+      relationship.append_attribute("Id") = NewRelationshipId(relations_).c_str();
+      relationship.append_attribute("Type") = kSharedStringsType;
+      relationship.append_attribute("Target") =
+          sharedStringsPart_.substr(FolderOf(workbookPart_).size()).c_str();
+      pugi::xml_node type = NewChild(types, "Override");
+      type.append_attribute("PartName") = ("/" + sharedStringsPart_).c_str();
+      type.append_attribute("ContentType") = kSharedStringsContentType;
+    }
+  }
+  if (packageChanged) {
+    package.Find(RelationshipsPartOf(workbookPart_))->data = WritePart(relations);
+    package.Find(kContentTypesPart)->data = WritePart(contentTypes);
+  }
+  return package.Write();
+}
+
+}  // namespace workbook

@@ -1,0 +1,64 @@
+// An .xlsx workbook: the package's workbook part, its sheets found by name
+// through the workbook's relationships, the shared strings and the number
+// formats of the styles. Only the parts that a write changes are written
+// anew; the calculation chain goes, since Excel rebuilds it.
+#pragma once
+
+#include <pugixml.hpp>
+
+#include <memory>
+#include <set>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+#include "PackageRelations.h"
+#include "Workbook.h"
+#include "WorksheetXml.h"
+#include "ZipPackage.h"
+
+namespace workbook {
+
+class XlsxWorkbook : public Workbook {
+ public:
+  // Throws Error for a package that is not a spreadsheet.
+  explicit XlsxWorkbook(const Bytes& image);
+
+  Format format() const override { return Format::Xlsx; }
+  std::vector<std::wstring> SheetNames() const override;
+  void SetCellText(std::wstring_view sheet, int row, int column, std::wstring_view text) override;
+  std::wstring GetCellText(std::wstring_view sheet, int row, int column) const override;
+  Bytes Save() const override;
+
+ private:
+  struct Sheet {
+    std::wstring name;
+    std::string part;
+    std::unique_ptr<ooxml::WorksheetXml> cells;  // null for a chart sheet
+    bool changed = false;
+  };
+
+  void ReadSharedStrings();
+  void ReadStyles(const std::string& part);
+  const Sheet& FindWorksheet(std::wstring_view name) const;
+  uint32_t AddSharedString(const std::wstring& text);
+  bool IsTextFormat(int style) const;
+  void WriteSharedStrings(ZipPackage& package) const;
+  void DropCalculationChain(ZipPackage& package) const;
+
+  ZipPackage package_;
+  std::string workbookPart_;
+  pugi::xml_document workbookRelations_;
+  std::vector<ooxml::Relationship> relations_;
+  std::vector<Sheet> sheets_;
+  pugi::xml_document sharedStrings_;
+  std::string sharedStringsPart_;
+  bool sharedStringsChanged_ = false;
+  std::vector<std::wstring> strings_;
+  std::unordered_map<std::wstring, uint32_t> plainStrings_;
+  long long stringReferenceChange_ = 0;
+  std::vector<int> numberFormatOfStyle_;
+  std::set<int> textNumberFormats_;
+};
+
+}  // namespace workbook
