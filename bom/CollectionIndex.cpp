@@ -2,13 +2,13 @@
 
 #include <functional>
 
-#include "BomText.h"
+#include "TkText.h"
 
 const CollectionIndex::ModelInfo& CollectionIndex::Model(ProMdl mdl) {
   auto known = models_.find(mdl);
   if (known != models_.end()) return known->second;
   ModelInfo info;
-  info.upperName = UpperText(bom_.model_.GetMdlName(mdl));
+  info.upperName = tktext::Upper(bom_.model_.GetMdlName(mdl));
   info.typeStatus = bom_.model_.GetMdlType(mdl, info.type);
   info.key = keys_.try_emplace({info.type, info.upperName}, static_cast<int>(keys_.size())).first->second;
   info.nameKey = nameKeys_.try_emplace(info.upperName, static_cast<int>(nameKeys_.size())).first->second;

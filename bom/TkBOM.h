@@ -83,6 +83,10 @@ class TkBOM {
   bool IsSuppressed(const ProAsmcomp& feature) const;
   bool IsExcludedSubtype(ProMdl mdl) const;
   BomMdl TopRow(ProMdl top, int level) const;
+  // The common start of a collection: the rows emptied, the root found and
+  // put first at `topLevel`, and its occurrences walked. Non-zero ends it.
+  int StartCollection(const std::wstring& function, int topLevel, std::vector<BomMdl>& rows, ProMdl& top,
+                      std::vector<TkModelAsmCmp>& cmps) const;
   // The rows IsRowFilteredOut takes out, tested from the last to the first.
   void RemoveFilteredRows(const BomCollectFilter& filter, std::vector<BomMdl>& rows) const;
   int GetPartMass(ProMdl part, double& mass) const;

@@ -6,15 +6,10 @@
 
 int TkBOM::GetFirstLevelBomMdls(const BomCollectFilter& filter, std::vector<BomMdl>& rows) const {
   const std::wstring function = L"GetFirstLevelBomMdls";
-  rows.clear();
   platform::OutputDebugString(L"@_GetFirstLevelBomMdls_1");
   ProMdl top = nullptr;
-  if (int status = GetBomRootMdl(function, top)) return status;
-  rows.push_back(TopRow(top, -1));
-
   std::vector<TkModelAsmCmp> cmps;
-  if (int status = log_.LogStatus(Tag(function, L"GetAllComponent2"), model_.GetAllComponent2(top, cmps)))
-    return status;
+  if (int status = StartCollection(function, -1, rows, top, cmps)) return status;
 
   CollectionIndex index(*this);
   std::unordered_map<int, size_t> rowOfModel{{index.Model(top).key, 0}};

@@ -57,14 +57,9 @@ class MultiLevelIndex {
 int TkBOM::GetAllLeveBomMdls(const BomCollectFilter& filter, std::vector<BomMdl>& rows,
                              int sameAsmCmps) const {
   const std::wstring function = L"GetAllLeveBomMdls";
-  rows.clear();
   ProMdl top = nullptr;
-  if (int status = GetBomRootMdl(function, top)) return status;
-  rows.push_back(TopRow(top, 0));
-
   std::vector<TkModelAsmCmp> cmps;
-  if (int status = log_.LogStatus(Tag(function, L"GetAllComponent2"), model_.GetAllComponent2(top, cmps)))
-    return status;
+  if (int status = StartCollection(function, 0, rows, top, cmps)) return status;
   log_.LogStatus(Tag(function, L"CmpNum: " + std::to_wstring(cmps.size())), 0);
 
   CollectionIndex models(*this);

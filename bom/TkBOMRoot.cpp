@@ -2,7 +2,7 @@
 // occurrences count, the top row and the row filter.
 #include <algorithm>
 
-#include "BomText.h"
+#include "TkText.h"
 #include "ProArray.h"
 #include "ProDrawing.h"
 #include "ProFeature.h"
@@ -54,13 +54,13 @@ int TkBOM::IsCmpCounted(const TkModelAsmCmp& cmp, int& counted) const {
 }
 
 int TkBOM::IsRowFilteredOut(const BomCollectFilter& filter, const TkModelAsmCmp& cmp) const {
-  std::wstring name = UpperText(model_.GetMdlName(cmp.mdl));
+  std::wstring name = tktext::Upper(model_.GetMdlName(cmp.mdl));
   // The value is not upper-cased: a parameter value with small letters in it
   // matches no filter text.
   std::wstring value = filter.key.empty() ? name : param_.GetMdlParamValue(cmp.mdl, filter.key, 2);
   int answer = 0;
   for (const std::wstring& text : filter.values) {
-    bool match = value.find(TrimBlanks(UpperText(text))) == 0;
+    bool match = value.find(tktext::TrimBlanks(tktext::Upper(text))) == 0;
     answer = filter.keepMatches ? 1 : 0;
     if (match) {
       answer = filter.keepMatches ? 0 : 1;
@@ -68,6 +68,15 @@ int TkBOM::IsRowFilteredOut(const BomCollectFilter& filter, const TkModelAsmCmp&
     }
   }
   return answer;
+}
+
+int TkBOM::StartCollection(const std::wstring& function, int topLevel, std::vector<BomMdl>& rows, ProMdl& top,
+                           std::vector<TkModelAsmCmp>& cmps) const {
+  rows.clear();
+  top = nullptr;
+  if (int status = GetBomRootMdl(function, top)) return status;
+  rows.push_back(TopRow(top, topLevel));
+  return log_.LogStatus(Tag(function, L"GetAllComponent2"), model_.GetAllComponent2(top, cmps));
 }
 
 BomMdl TkBOM::TopRow(ProMdl top, int level) const {

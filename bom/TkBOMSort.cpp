@@ -8,7 +8,7 @@
 #include <numeric>
 #include <unordered_map>
 
-#include "BomText.h"
+#include "TkText.h"
 #include "DebugOutput.h"
 #include "PathKey.h"
 #include "TkBOM.h"
@@ -16,7 +16,7 @@
 namespace {
 
 int CompareTexts(const std::wstring& a, const std::wstring& b) {
-  std::wstring upperA = UpperText(a), upperB = UpperText(b);
+  std::wstring upperA = tktext::Upper(a), upperB = tktext::Upper(b);
   size_t common = std::min(upperA.size(), upperB.size());
   for (size_t i = 0; i < common; ++i) {
     if (upperA[i] != upperB[i]) return upperA[i] > upperB[i] ? 1 : -1;

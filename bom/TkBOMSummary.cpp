@@ -5,14 +5,9 @@
 
 int TkBOM::GetBomMdls(const BomCollectFilter& filter, std::vector<BomMdl>& rows) const {
   const std::wstring function = L"GetBomMdls";
-  rows.clear();
   ProMdl top = nullptr;
-  if (int status = GetBomRootMdl(function, top)) return status;
-  rows.push_back(TopRow(top, -1));
-
   std::vector<TkModelAsmCmp> cmps;
-  if (int status = log_.LogStatus(Tag(function, L"GetAllComponent2"), model_.GetAllComponent2(top, cmps)))
-    return status;
+  if (int status = StartCollection(function, -1, rows, top, cmps)) return status;
 
   CollectionIndex index(*this);
   std::unordered_map<int, size_t> rowOfModel{{index.Model(top).key, 0}};

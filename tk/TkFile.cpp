@@ -9,13 +9,6 @@
 
 namespace {
 
-std::wstring TrimBlanks(const std::wstring& text) {
-  size_t first = text.find_first_not_of(L' ');
-  if (first == std::wstring::npos) return L"";
-  size_t last = text.find_last_not_of(L' ');
-  return text.substr(first, last - first + 1);
-}
-
 // The file a model picked from the session came from; empty on failure.
 std::wstring InSessionOrigin(const std::wstring& name, const std::wstring& extension) {
   std::wstring fileName = name + L"." + extension;
@@ -116,8 +109,8 @@ void CTkFile::SplitText(const std::wstring& text, std::vector<std::wstring>& pie
       rest = rest.substr(at + 1);
     }
     if (trim) {
-      piece = TrimBlanks(piece);
-      rest = TrimBlanks(rest);
+      piece = tktext::TrimBlanks(piece);
+      rest = tktext::TrimBlanks(rest);
     }
     pieces.push_back(piece);
   }

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cwchar>
-#include <cwctype>
 
 #include "ProArray.h"
 #include "ProAsmcomp.h"
@@ -13,11 +12,6 @@
 #include "TkText.h"
 
 namespace {
-
-std::wstring Upper(std::wstring text) {
-  for (wchar_t& c : text) c = static_cast<wchar_t>(std::towupper(c));
-  return text;
-}
 
 struct WalkContext {
   std::vector<TkModelAsmCmp> cmps;
@@ -152,7 +146,7 @@ std::wstring CTkModel::GetMdlOriginDir(ProMdl mdl) const {
 int CTkModel::IsSameMdl(ProMdl a, ProMdl b) const {
   int typeA = 0, typeB = 0;
   if (GetMdlType(a, typeA) != PRO_TK_NO_ERROR || GetMdlType(b, typeB) != PRO_TK_NO_ERROR) return 0;
-  return typeA == typeB && Upper(GetMdlName(a)) == Upper(GetMdlName(b)) ? 1 : 0;
+  return typeA == typeB && tktext::Upper(GetMdlName(a)) == tktext::Upper(GetMdlName(b)) ? 1 : 0;
 }
 
 int CTkModel::IsSameCmpPath(const ProAsmcomppath& a, const ProAsmcomppath& b, int& same) const {

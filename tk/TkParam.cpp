@@ -1,13 +1,14 @@
 #include "TkParam.h"
 
 #include <cwchar>
-#include <cwctype>
+#include <optional>
 
 #include "CodePage.h"
 #include "ProArray.h"
 #include "ProMdl.h"
 #include "ProParameter.h"
 #include "ProWstring.h"
+#include "TkText.h"
 
 namespace {
 
@@ -73,9 +74,27 @@ void SetText(ProParamvalue& value, const std::wstring& text) {
   value.value.s_val[PRO_LINE_SIZE - 1] = L'\0';
 }
 
-std::wstring Upper(std::wstring text) {
-  for (wchar_t& c : text) c = static_cast<wchar_t>(std::towupper(c));
-  return text;
+// The host value of a text of the given type. A boolean's text reads
+// differently for setting and for creating, so the caller gives its value.
+std::optional<ProParamvalue> ValueOf(int type, const std::wstring& text, bool boolean) {
+  ProParamvalue value{};
+  value.type = static_cast<ProParamvalueType>(type);
+  switch (type) {
+    case PRO_PARAM_DOUBLE:
+      value.value.d_val = platform::WideToDouble(text);
+      return value;
+    case PRO_PARAM_STRING:
+      SetText(value, text);
+      return value;
+    case PRO_PARAM_INTEGER:
+      value.value.i_val = platform::WideToInt(text);
+      return value;
+    case PRO_PARAM_BOOLEAN:
+      value.value.l_val = boolean ? 1 : 0;
+      return value;
+    default:
+      return std::nullopt;
+  }
 }
 
 ProError AppendParameter(ProParameter* param, ProError, ProAppData data) {
@@ -95,60 +114,28 @@ int CTkParam::GetMdlParamType(ProMdl mdl, const std::wstring& name) const {
 
 int CTkParam::SetMdlParamValue(ProMdl mdl, const std::wstring& name, int type,
                                const std::wstring& value) const {
-  ProParamvalue hostValue{};
-  hostValue.type = static_cast<ProParamvalueType>(type);
-  switch (type) {
-    case kDouble:
-      hostValue.value.d_val = platform::WideToDouble(value);
-      break;
-    case kText:
-      SetText(hostValue, value);
-      break;
-    case kInteger:
-      hostValue.value.i_val = platform::WideToInt(value);
-      break;
-    case kBoolean:
-      hostValue.value.l_val = platform::WideToInt(value) != 0 ? 1 : 0;
-      break;
-    default:
-      return PRO_TK_BAD_INPUTS;
-  }
+  std::optional<ProParamvalue> hostValue = ValueOf(type, value, platform::WideToInt(value) != 0);
+  if (!hostValue) return PRO_TK_BAD_INPUTS;
   Found found = Init(mdl, name);
   if (found.status != PRO_TK_NO_ERROR) return found.status;
   // The read is for the unit alone: the value is set in the unit it has.
   ProParamvalue old{};
   ProUnititem unit{};
   ProParameterValueWithUnitsGet(&found.param, &old, &unit);
-  return ProParameterValueWithUnitsSet(&found.param, &hostValue, &unit);
+  return ProParameterValueWithUnitsSet(&found.param, &*hostValue, &unit);
 }
 
 int CTkParam::CreateMdlParam(ProMdl mdl, const std::wstring& name, int type,
                              const std::wstring& value) const {
-  ProParamvalue hostValue{};
-  hostValue.type = static_cast<ProParamvalueType>(type);
-  switch (type) {
-    case kDouble:
-      hostValue.value.d_val = platform::WideToDouble(value);
-      break;
-    case kInteger:
-      hostValue.value.i_val = platform::WideToInt(value);
-      break;
-    case kText:
-      SetText(hostValue, value);
-      break;
-    case kBoolean:
-      hostValue.value.l_val = Upper(value) == L"PRO_B_TRUE" ? 1 : 0;
-      break;
-    default:
-      return PRO_TK_BAD_INPUTS;
-  }
+  std::optional<ProParamvalue> hostValue = ValueOf(type, value, tktext::Upper(value) == L"PRO_B_TRUE");
+  if (!hostValue) return PRO_TK_BAD_INPUTS;
   ProModelitem item{};
   if (ProMdlToModelitem(mdl, &item) != PRO_TK_NO_ERROR) return 0;
   ProName hostName{};
   std::wcsncpy(hostName, name.c_str(), PRO_NAME_SIZE - 1);
   ProParameter param{};
   if (ProParameterInit(&item, hostName, &param) == PRO_TK_NO_ERROR) return 0;
-  ProParameterWithUnitsCreate(&item, hostName, &hostValue, nullptr, &param);
+  ProParameterWithUnitsCreate(&item, hostName, &*hostValue, nullptr, &param);
   return 0;
 }
 

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cwchar>
+#include <cwctype>
 #include <string>
 
 namespace tktext {
@@ -17,6 +18,18 @@ void CopyToBuffer(wchar_t (&buffer)[N], const std::wstring& text) {
 // A path holding more than one dot loses everything from its last dot:
 // a.prt.3 becomes a.prt. The whole path counts, so a dotted directory costs
 // an unversioned file its extension.
+inline std::wstring Upper(std::wstring text) {
+  for (wchar_t& c : text) c = static_cast<wchar_t>(std::towupper(c));
+  return text;
+}
+
+// Blanks (not tabs) off both ends.
+inline std::wstring TrimBlanks(const std::wstring& text) {
+  std::size_t first = text.find_first_not_of(L' ');
+  if (first == std::wstring::npos) return L"";
+  return text.substr(first, text.find_last_not_of(L' ') - first + 1);
+}
+
 inline std::wstring CutLastDotOfSeveral(std::wstring path) {
   std::size_t last = path.rfind(L'.');
   if (path.find(L'.') != last) path.erase(last);

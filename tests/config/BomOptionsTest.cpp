@@ -7,16 +7,8 @@
 
 namespace {
 
-class BomOptionsTest : public TempDirTest {
+class BomOptionsTest : public TextRootTest {
  protected:
-  void SetUp() override {
-    TempDirTest::SetUp();
-    protkrt::SetApplTextPath(PathOf(""));
-  }
-  void TearDown() override {
-    protkrt::SetApplTextPath(L"");
-    TempDirTest::TearDown();
-  }
   void GivenExcel(const std::string& section, const std::string& lines) {
     WriteFile("config/Excel.cfg", "[" + section + "]\n" + lines + "\n");
   }

@@ -12,16 +12,8 @@
 namespace {
 
 // The test's directory is the plug-in's text root.
-class CfgOptionTest : public TempDirTest {
+class CfgOptionTest : public TextRootTest {
  protected:
-  void SetUp() override {
-    TempDirTest::SetUp();
-    protkrt::SetApplTextPath(PathOf(""));
-  }
-  void TearDown() override {
-    protkrt::SetApplTextPath(L"");
-    TempDirTest::TearDown();
-  }
   void GivenSaveAuto(const std::string& dlgSetLines) {
     WriteFile("config/SaveAuto.cfg", "[DlgSet]\n" + dlgSetLines + "\n[WrkDir]\nIsSaveWrkDir=1\n");
   }

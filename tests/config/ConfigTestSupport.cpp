@@ -1,5 +1,7 @@
 #include "ConfigTestSupport.h"
 
+#include "ApplTextPath.h"
+
 std::optional<std::string> MemoryFiles::ReadAll(const std::wstring& path) {
   auto found = files.find(path);
   if (found == files.end()) return std::nullopt;
@@ -28,3 +30,13 @@ void TempDirTest::WriteFile(const std::string& name, const std::string& bytes) c
 std::string TempDirTest::ReadFile(const std::string& name) const { return scratch->Read(name); }
 
 bool TempDirTest::Exists(const std::string& name) const { return std::filesystem::exists(dir / name); }
+
+void TextRootTest::SetUp() {
+  TempDirTest::SetUp();
+  protkrt::SetApplTextPath(PathOf(""));
+}
+
+void TextRootTest::TearDown() {
+  protkrt::SetApplTextPath(L"");
+  TempDirTest::TearDown();
+}

@@ -36,3 +36,10 @@ class TempDirTest : public ::testing::Test {
   std::filesystem::path dir;
   std::unique_ptr<TestDir> scratch;
 };
+
+// The test's directory is the plug-in's text root.
+class TextRootTest : public TempDirTest {
+ protected:
+  void SetUp() override;
+  void TearDown() override;
+};

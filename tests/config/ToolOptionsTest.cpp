@@ -8,16 +8,8 @@
 
 namespace {
 
-class ToolOptionsTest : public TempDirTest {
+class ToolOptionsTest : public TextRootTest {
  protected:
-  void SetUp() override {
-    TempDirTest::SetUp();
-    protkrt::SetApplTextPath(PathOf(""));
-  }
-  void TearDown() override {
-    protkrt::SetApplTextPath(L"");
-    TempDirTest::TearDown();
-  }
   std::string Scheme(int number, const std::string& isShow) {
     std::string n = std::to_string(number);
     return "[Sec" + n + "]\nProjectName=方案" + n +
