@@ -315,7 +315,7 @@ CellTable::Written CellTable::Write(uint16_t defaultRowHeight) const {
     PutU32(header, static_cast<uint32_t>(offset - firstRowOffset));
     dbCell.data.insert(dbCell.data.begin(), header.begin(), header.end());
     offset += RecordSize(dbCell);
-    written.dbCellIndex.push_back(written.records.size());
+    ++written.blocks;
     written.records.push_back(std::move(dbCell));
     blockStart = blockEnd;
   }

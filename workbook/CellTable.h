@@ -50,8 +50,8 @@ class CellTable {
   size_t CountCellsOfType(uint16_t type) const;
 
   struct Written {
-    std::vector<Record> records;      // ROW, cells and DBCELL of each block
-    std::vector<size_t> dbCellIndex;  // which of `records` are DBCELL
+    std::vector<Record> records;  // ROW, cells and DBCELL of each block
+    size_t blocks = 0;            // DBCELL records among them
     Record dimensions;
     uint32_t firstRow = 0;  // of the rows with cells; 0 and 0 without any
     uint32_t rowLimit = 0;

@@ -1,5 +1,6 @@
 #include "Workbook.h"
 
+#include <algorithm>
 #include <fstream>
 #include <iterator>
 

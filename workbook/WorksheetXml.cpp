@@ -29,6 +29,15 @@ int PositionOf(pugi::xml_node node, int previous, bool isRow) {
   return position;
 }
 
+// "A1:C5" or "A1".
+std::optional<std::pair<CellRef, CellRef>> ParseRange(std::string_view text) {
+  size_t colon = text.find(':');
+  auto first = ParseCellRef(text.substr(0, colon));
+  auto last = colon == std::string_view::npos ? first : ParseCellRef(text.substr(colon + 1));
+  if (!first || !last) return std::nullopt;
+  return std::pair{*first, *last};
+}
+
 std::pair<int, int> ParseSpan(std::string_view span, std::string_view separator) {
   size_t at = span.find(separator);
   if (at == std::string_view::npos) return {0, 0};
@@ -57,6 +66,11 @@ WorksheetXml::WorksheetXml(const Bytes& xml, std::string_view part) {
       if (!cell.attribute("r")) cell.append_attribute("r") = FormatCellRef(rowNumber, column).c_str();
       previousColumn = column;
       entry.cells[column] = cell;
+      pugi::xml_node formula = Child(cell, "f");
+      if (std::string_view(formula.attribute("t").value()) == "array") {
+        if (auto range = ParseRange(formula.attribute("ref").value()))
+          arrays_.push_back({range->first, range->second});
+      }
     }
   }
 }
@@ -82,6 +96,17 @@ std::optional<int> WorksheetXml::StyleForNewCell(int row, int column) const {
     }
   }
   return std::nullopt;
+}
+
+bool WorksheetXml::InFormulaGroup(int row, int column) const {
+  for (const Range& range : arrays_) {
+    if (range.first.row <= row && row <= range.last.row && range.first.column <= column &&
+        column <= range.last.column) {
+      return true;
+    }
+  }
+  pugi::xml_node formula = Child(FindCell(row, column), "f");
+  return std::string_view(formula.attribute("t").value()) == "shared" && formula.attribute("ref");
 }
 
 pugi::xml_node WorksheetXml::MakeRow(int row) {
@@ -118,13 +143,11 @@ void WorksheetXml::ExtendRange(pugi::xml_attribute range, int row, int column, b
     range = (std::to_string(std::min(first, column)) + ":" + std::to_string(std::max(last, column))).c_str();
     return;
   }
-  std::string_view text = range.value();
-  size_t colon = text.find(':');
-  auto first = ParseCellRef(text.substr(0, colon));
-  auto last = colon == std::string_view::npos ? first : ParseCellRef(text.substr(colon + 1));
-  if (!first || !last) return;
-  std::string from = FormatCellRef(std::min(first->row, row), std::min(first->column, column));
-  std::string to = FormatCellRef(std::max(last->row, row), std::max(last->column, column));
+  auto bounds = ParseRange(range.value());
+  if (!bounds) return;
+  auto [first, last] = *bounds;
+  std::string from = FormatCellRef(std::min(first.row, row), std::min(first.column, column));
+  std::string to = FormatCellRef(std::max(last.row, row), std::max(last.column, column));
   range = (from == to ? from : from + ":" + to).c_str();
 }
 

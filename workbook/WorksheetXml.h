@@ -7,8 +7,10 @@
 #include <map>
 #include <optional>
 #include <string_view>
+#include <vector>
 
 #include "Bytes.h"
+#include "CellValues.h"
 
 namespace workbook::ooxml {
 
@@ -24,6 +26,9 @@ class WorksheetXml {
   pugi::xml_node MakeCell(int row, int column, std::optional<int> style);
   // What a new cell takes: its row's format, else its column's.
   std::optional<int> StyleForNewCell(int row, int column) const;
+  // Whether the cell lies in an array formula's range or is the master of a
+  // shared formula: Excel changes neither alone.
+  bool InFormulaGroup(int row, int column) const;
 
   Bytes Write() const;
 
@@ -32,6 +37,10 @@ class WorksheetXml {
     pugi::xml_node node;
     std::map<int, pugi::xml_node> cells;
   };
+  struct Range {
+    CellRef first;
+    CellRef last;
+  };
 
   pugi::xml_node MakeRow(int row);
   void ExtendRange(pugi::xml_attribute range, int row, int column, bool columnsOnly);
@@ -39,6 +48,7 @@ class WorksheetXml {
   pugi::xml_document document_;
   pugi::xml_node sheetData_;
   std::map<int, Row> rows_;
+  std::vector<Range> arrays_;
 };
 
 }  // namespace workbook::ooxml

@@ -44,6 +44,29 @@ size_t FindRecordAt(const RecordList& stream, size_t position) {
 
 std::string Quoted(std::wstring_view name) { return "\"" + ToUtf8(name) + "\""; }
 
+bool HoldsRecord(const CellEntry& entry, std::initializer_list<uint16_t> types) {
+  return std::any_of(entry.records.begin(), entry.records.end(), [&](const Record& record) {
+    return std::find(types.begin(), types.end(), record.type) != types.end();
+  });
+}
+
+// Excel refuses to change part of an array, and the anchor of a shared
+// formula carries the formula of every cell that refers to it. A cell inside
+// an array refers to its anchor by a single PtgExp.
+bool BelongsToFormulaGroup(const CellTable& cells, uint16_t row, uint16_t column) {
+  const CellEntry* entry = cells.Find(row, column);
+  if (!entry) return false;
+  if (HoldsRecord(*entry, {kArray, kShrFmla, kTable})) return true;
+  const Bytes& cell = entry->records.front().data;
+  if (entry->records.front().type != kFormula || cell.size() < kFormulaExpressionOffset + 7 ||
+      GetU16(cell, kFormulaExpressionOffset) != 5 || cell[kFormulaExpressionOffset + 2] != kPtgExp) {
+    return false;
+  }
+  const CellEntry* anchor =
+      cells.Find(GetU16(cell, kFormulaExpressionOffset + 3), GetU16(cell, kFormulaExpressionOffset + 5));
+  return anchor && HoldsRecord(*anchor, {kArray});
+}
+
 }  // namespace
 
 XlsWorkbook::XlsWorkbook(const Bytes& image) : file_(CompoundFile::Read(image)) {
@@ -193,27 +216,9 @@ void XlsWorkbook::SetCellText(std::wstring_view sheetName, int row, int column, 
   auto r = static_cast<uint16_t>(row - 1);
   auto c = static_cast<uint16_t>(column - 1);
 
-  // Excel refuses to change part of an array, and the anchor of a shared
-  // formula carries the formula of every cell that refers to it.
-  if (const CellEntry* existing = sheet.cells.Find(r, c)) {
-    auto isGroupRecord = [](const Record& record) {
-      return record.type == kArray || record.type == kShrFmla || record.type == kTable;
-    };
-    const CellEntry* anchor = existing;
-    const Bytes& cell = existing->records.front().data;
-    if (existing->records.front().type == kFormula && cell.size() >= kFormulaExpressionOffset + 7 &&
-        GetU16(cell, kFormulaExpressionOffset) == 5 && cell[kFormulaExpressionOffset + 2] == kPtgExp) {
-      const CellEntry* referred = sheet.cells.Find(GetU16(cell, kFormulaExpressionOffset + 3),
-                                                   GetU16(cell, kFormulaExpressionOffset + 5));
-      if (referred && std::any_of(referred->records.begin(), referred->records.end(),
-                                  [](const Record& record) { return record.type == kArray; })) {
-        anchor = referred;
-      }
-    }
-    if (std::any_of(anchor->records.begin(), anchor->records.end(), isGroupRecord)) {
-      throw Error("cell (row " + std::to_string(row) + ", column " + std::to_string(column) + ") of sheet " +
-                  Quoted(sheetName) + " belongs to an array or shared formula and cannot be overwritten");
-    }
+  if (BelongsToFormulaGroup(sheet.cells, r, c)) {
+    throw Error("cell (row " + std::to_string(row) + ", column " + std::to_string(column) + ") of sheet " +
+                Quoted(sheetName) + " belongs to an array or shared formula and cannot be overwritten");
   }
 
   std::u16string units = ToUtf16(text);
@@ -264,7 +269,7 @@ std::vector<Record> XlsWorkbook::RebuiltSheet(const Sheet& sheet) const {
   PutU32(index.data, table.firstRow);
   PutU32(index.data, table.rowLimit);
   PutU32(index.data, 0);
-  index.data.resize(kIndexFixedSize + 4 * table.dbCellIndex.size());
+  index.data.resize(kIndexFixedSize + 4 * table.blocks);
 
   bool hasIndex = std::any_of(sheet.records.begin(), sheet.records.end(),
                               [](const Record& record) { return record.type == kIndex; });

@@ -160,9 +160,7 @@ void XlsxWorkbook::SetCellText(std::wstring_view sheetName, int row, int column,
   Sheet& sheet = const_cast<Sheet&>(FindWorksheet(sheetName));
   CheckCellRange(row, column, kRowLimit, kColumnLimit);
   pugi::xml_node cell = sheet.cells->FindCell(row, column);
-  pugi::xml_node formula = Child(cell, "f");
-  std::string_view formulaType = formula.attribute("t").value();
-  if (formulaType == "array" || (formulaType == "shared" && formula.attribute("ref"))) {
+  if (sheet.cells->InFormulaGroup(row, column)) {
     throw Error("cell (row " + std::to_string(row) + ", column " + std::to_string(column) + ") of sheet " +
                 Quoted(sheetName) + " belongs to an array or shared formula and cannot be overwritten");
   }

@@ -40,6 +40,7 @@ class Cell:
     value: object = None  # str, int, float, bool or None
     style: Style = Style()
     formula: str = ""  # OpenFormula, e.g. "of:=[.A1]*2"
+    array: int = 0  # columns of an array formula that starts here
     span: int = 1
     runs: list = field(default_factory=list)  # (text, bold) pieces of a rich text
 
@@ -54,8 +55,7 @@ class Sheet:
 
 
 class _Styles:
-    def __init__(self, font):
-        self.font = font
+    def __init__(self):
         self.cells = {}
         self.columns = {}
         self.rows = {}
@@ -103,6 +103,8 @@ def _cell_xml(cell, styles):
         attributes += f' table:number-columns-spanned="{cell.span}" table:number-rows-spanned="1"'
     if cell.formula:
         attributes += f" table:formula={quoteattr(cell.formula)}"
+    if cell.array:
+        attributes += f' table:number-matrix-columns-spanned="{cell.array}" table:number-matrix-rows-spanned="1"'
     value = cell.value
     content = ""
     if cell.runs:
@@ -127,7 +129,7 @@ def _cell_xml(cell, styles):
 
 def fods(sheets, font="宋体", size=10):
     """The .fods text of `sheets`, every cell in `font`."""
-    styles = _Styles(font)
+    styles = _Styles()
     tables = []
     for sheet in sheets:
         parts = [f"<table:table table:name={quoteattr(sheet.name)}>"]

@@ -89,7 +89,7 @@ TYPED_TEST(WorkbookFormatTest, ReadsEveryKindOfValueAsAutomationGivesItAsText) {
 
 TYPED_TEST(WorkbookFormatTest, SheetsComeInTabOrderAndAreFoundWithoutRegardToCase) {
   auto book = this->OpenTemplate();
-  EXPECT_THAT(book->SheetNames(), testing::ElementsAre(kSheet, L"Sheet Two"));
+  EXPECT_THAT(book->SheetNames(), testing::ElementsAre(kSheet, L"Sheet Two", L"公式"));
   EXPECT_EQ(book->GetCellText(L"SHEET two", 1, 1), L"second");
 }
 
@@ -110,6 +110,15 @@ TYPED_TEST(WorkbookFormatTest, MissingSheetOrCellOutsideTheFormatIsAnErrorThatCh
   } catch (const workbook::Error& error) {
     EXPECT_THAT(error.what(), testing::HasSubstr("\"bom\""));
   }
+}
+
+TYPED_TEST(WorkbookFormatTest, CellsOfAnArrayFormulaCannotBeOverwrittenAlone) {
+  auto book = this->OpenTemplate();
+  EXPECT_THROW(book->SetCellText(L"公式", 1, 3, L"x"), workbook::Error);  // the array's anchor
+  EXPECT_THROW(book->SetCellText(L"公式", 1, 4, L"x"), workbook::Error);  // inside the array
+  EXPECT_EQ(book->GetCellText(L"公式", 1, 4), L"2");
+  book->SetCellText(L"公式", 3, 2, L"5");  // a formula of its own
+  EXPECT_EQ(book->GetCellText(L"公式", 3, 2), L"5");
 }
 
 TYPED_TEST(WorkbookFormatTest, TextThatExcelTakesAsNumberIsStoredAsNumber) {

@@ -2,7 +2,8 @@
 """Reads a workbook the tests wrote with an independent reader (xlrd for
 .xls, openpyxl for .xlsx) and checks it against the expectations in a JSON
 file: the written cells' values, their format index against the template's,
-and every other cell of the template unchanged in value and format index.
+every other cell of the template unchanged in value and format index, and
+every row height of the template kept.
 Prints one line per problem; exits 1 when there is any."""
 
 import json
@@ -15,6 +16,8 @@ def xls_cells(path):
     book = xlrd.open_workbook(path, formatting_info=True, on_demand=False)
     cells = {}
     for sheet in book.sheets():
+        for row, info in sheet.rowinfo_map.items():
+            cells[(sheet.name, "row height", row + 1)] = (info.height, info.has_default_height)
         for row in range(sheet.nrows):
             for column in range(sheet.ncols):
                 cell = sheet.cell(row, column)
@@ -34,6 +37,8 @@ def xlsx_cells(path):
     book = openpyxl.load_workbook(path)
     cells = {}
     for sheet in book.worksheets:
+        for row, dimension in sheet.row_dimensions.items():
+            cells[(sheet.title, "row height", row)] = (dimension.height, dimension.customHeight)
         for row in sheet.iter_rows():
             for cell in row:
                 value = cell.value
@@ -74,11 +79,9 @@ def main():
             problems.append(f"{key}: format index {style}, the template's {template[key][2]}")
         if "style" in cell and cell["style"] != style:
             problems.append(f"{key}: format index {style}, expected {cell['style']}")
-    for key, (kind, value, style) in template.items():
-        if key in written_keys:
-            continue
-        if written.get(key) != (kind, value, style):
-            problems.append(f"{key}: was {(kind, value, style)!r} in the template, now {written.get(key)!r}")
+    for key, was in template.items():  # cells, and row heights under (sheet, "row height", row)
+        if key not in written_keys and written.get(key) != was:
+            problems.append(f"{key}: was {was!r} in the template, now {written.get(key)!r}")
     for problem in problems[:50]:
         print(problem)
     return 1 if problems else 0

@@ -31,9 +31,14 @@ def main():
         7: [Cell("tall row")],
     }, heights={7: 1.2}, column_styles={6: TEXT})
     second = Sheet("Sheet Two", [3.0], {1: [Cell("second")]})
+    # LibreOffice writes the column of like formulas as a shared formula in
+    # .xls, and the array formula over C1:D1 as an array in both formats.
+    formulas = Sheet("公式", [2.0] * 4, {
+        row: [Cell(row), Cell(row * 2, formula=f"of:=[.A{row}]*2")] for row in range(1, 5)})
+    formulas.rows[1] += [Cell(1, formula="of:={1;2}", array=2), Cell(2)]
     source = os.path.join(HERE, "template.fods")
     with open(source, "w", encoding="utf-8") as out:
-        out.write(fods([first, second]))
+        out.write(fods([first, second, formulas]))
     try:
         convert(source, HERE, ["xls", "xlsx"])
     finally:
