@@ -7,3 +7,8 @@
 int NotYetAvailable(uiCmdCmdId, uiCmdValue*, void*);
 
 int OpenWorkDirectory(uiCmdCmdId, uiCmdValue*, void*);
+
+// The BOM list, made anew from the current model at each command: the list
+// left from the last command goes with its state. Without a windowing
+// application in the process (a headless host) nothing opens.
+int ShowBomList(uiCmdCmdId, uiCmdValue*, void*);

@@ -10,6 +10,8 @@ packages=(
   # the spreadsheet engine, and the independent readers its tests use
   libgsf-1-dev libpugixml-dev
   python3-xlrd python3-openpyxl libreoffice-calc-nogui fonts-wqy-zenhei
+  # the dialogs and the workbench's window
+  qt6-base-dev
 )
 
 missing=()

@@ -7,6 +7,7 @@
 #include "ProUICmd.h"
 
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -60,5 +61,13 @@ bool RunAction(const std::string& actionName);
 // nullopt: nobody there to choose.
 void PushAnswer(const std::string& callName, std::optional<std::wstring> answer);
 std::optional<std::wstring> TakeAnswer(const std::string& callName);
+
+// Answers a chooser when nothing is queued for it, as a user would: the
+// windowed workbench shows a dialog of its own. Called on the thread of the
+// toolkit call with the host unlocked; nullopt is the user cancelling. Null
+// removes it, and then an empty queue is a cancel again.
+using AnswerProvider = std::function<std::optional<std::wstring>(
+    const std::string& callName, const std::wstring& label, const std::wstring& defaultPath)>;
+void SetAnswerProvider(AnswerProvider provider);
 
 }  // namespace sim

@@ -44,7 +44,8 @@ ParseResult ParseOptions(const std::vector<std::string>& args) {
   if (args.empty()) return {std::nullopt, "no job given"};
   WorkbenchOptions options{args[0], BOM_SAMPLE_SESSION, std::nullopt, BOM_PLUGIN_ROOT, "bom-work"};
   const bool rowsJob = options.job == "rows";
-  if (options.job != "commands" && !rowsJob) return {std::nullopt, "unknown job: " + options.job};
+  const bool guiJob = options.job == "gui";
+  if (options.job != "commands" && !rowsJob && !guiJob) return {std::nullopt, "unknown job: " + options.job};
 
   for (size_t i = 1; i < args.size(); ++i) {
     const std::string& name = args[i];
@@ -58,6 +59,10 @@ ParseResult ParseOptions(const std::vector<std::string>& args) {
       options.pluginRoot = value;
     } else if (name == "--workdir") {
       options.workdir = value;
+    } else if (guiJob && name == "--run") {
+      options.gui.run.push_back(value);
+    } else if (guiJob && name == "--screenshot") {
+      options.gui.screenshot = value;
     } else if (std::string error; !rowsJob || !ParseRowsOption(name, value, options.rows, error)) {
       return {std::nullopt, "unknown option: " + name};
     } else if (!error.empty()) {
@@ -74,5 +79,8 @@ std::string Usage() {
          "       bom-workbench rows [--session DIR] [--current FILE|none] [--plugin-root DIR] [--workdir "
          "DIR]\n"
          "                          --level single|multi|summary [--same-asm-cmps 0|1] [--sort PARAM]\n"
-         "                          [--filter-key KEY] [--filter-values V1,V2,...] [--keep-matches 0|1]\n";
+         "                          [--filter-key KEY] [--filter-values V1,V2,...] [--keep-matches 0|1]\n"
+         "       bom-workbench gui [--session DIR] [--current FILE|none] [--plugin-root DIR] [--workdir "
+         "DIR]\n"
+         "                         [--run ACTION]... [--screenshot FILE.png]\n";
 }

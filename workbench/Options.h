@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "GuiJob.h"
+
 // The job "rows": which list, and the collection's settings.
 struct RowsOptions {
   std::string level;  // "single", "multi" or "summary"
@@ -24,6 +26,7 @@ struct WorkbenchOptions {
   std::filesystem::path pluginRoot;
   std::filesystem::path workdir;
   RowsOptions rows{};
+  GuiOptions gui{};
 };
 
 struct ParseResult {

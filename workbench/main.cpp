@@ -5,6 +5,7 @@
 
 #include "CodePage.h"
 #include "CommandsJob.h"
+#include "GuiJob.h"
 #include "HostSession.h"
 #include "Options.h"
 #include "Plugin.h"
@@ -32,6 +33,8 @@ int main(int argc, char* argv[]) {
   int exitCode = 0;
   if (options.job == "rows") {
     exitCode = PrintRows(options.rows, std::cout, std::cerr);
+  } else if (options.job == "gui") {
+    exitCode = RunGui(options.gui, argc, argv);
   } else {
     PrintCommands(std::cout);
   }

@@ -1,0 +1,122 @@
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QFileDialog>
+#include <QPlainTextEdit>
+#include <QTest>
+#include <QTimer>
+#include <QTreeWidget>
+
+#include "HostChoosers.h"
+#include "HostControl.h"
+#include "MainWindow.h"
+#include "PluginHost.h"
+#include "ProToolkitDll.h"
+#include "ProUtil.h"
+#include "Registration.h"
+#include "Timers.h"
+
+namespace {
+
+// The plug-in registered in a host holding the sample session.
+class MainWindowTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    AutoSaveStarted = 1;  // the plug-in's own timers are not under test here
+    user_initialize(0, nullptr, nullptr, nullptr, nullptr);
+    ASSERT_EQ(sim::LoadSession(std::filesystem::path(BOM_SAMPLES_DIR) / "reducer"), PRO_TK_NO_ERROR);
+    window = std::make_unique<MainWindow>();
+    window->show();
+  }
+  void TearDown() override {
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+      if (widget->objectName() == "DlgBomShow") widget->close();
+    }
+    window.reset();
+  }
+
+  QAction* Action(const char* name) const { return window->findChild<QAction*>(name); }
+
+  TestDir dir_;
+  PluginHost host_{dir_};
+  std::unique_ptr<MainWindow> window;
+};
+
+TEST_F(MainWindowTest, MenusAndToolbarCarryThePluginsCommands) {
+  QAction* menuButton = Action("BOMShowMenuBtnID");
+  ASSERT_NE(menuButton, nullptr);
+  EXPECT_EQ(menuButton->text(), "零件清单显示");
+  QAction* toolButton = Action("CmdBOMShow2Id");
+  ASSERT_NE(toolButton, nullptr);
+  EXPECT_EQ(toolButton->text(), "零件清单显示");
+  EXPECT_FALSE(toolButton->icon().isNull());
+}
+
+TEST_F(MainWindowTest, CommandsGreyWhenUnavailableAndFollowTheCurrentModel) {
+  auto* tree = window->findChild<QTreeWidget*>("ModelTree");
+  EXPECT_TRUE(Action("BOMShowMenuBtnID")->isEnabled());
+  EXPECT_EQ(tree->topLevelItem(0)->text(0), "REDUCER");
+  EXPECT_GT(tree->topLevelItem(0)->childCount(), 5);
+
+  ASSERT_TRUE(window->MakeCurrent(L"housing.prt"));
+  EXPECT_FALSE(Action("BOMShowMenuBtnID")->isEnabled());
+  EXPECT_FALSE(Action("CmdBOMShow2Id")->isEnabled());
+  EXPECT_EQ(tree->topLevelItem(0)->text(0), "HOUSING");
+  EXPECT_EQ(tree->topLevelItem(0)->childCount(), 0);
+
+  ASSERT_TRUE(window->MakeCurrent(L"reducer.drw"));
+  EXPECT_TRUE(Action("BOMShowMenuBtnID")->isEnabled());
+  EXPECT_FALSE(window->MakeCurrent(L"nothing.prt"));
+}
+
+TEST_F(MainWindowTest, ClickingACommandOpensItsDialogAndShowsTheTrail) {
+  Action("BOMShowMenuBtnID")->trigger();
+  bool listOpen = false;
+  for (QWidget* widget : QApplication::topLevelWidgets()) {
+    if (widget->objectName() == "DlgBomShow" && widget->isVisible()) listOpen = true;
+  }
+  EXPECT_TRUE(listOpen);
+  auto* trail = window->findChild<QPlainTextEdit*>("TrailView");
+  EXPECT_TRUE(trail->toPlainText().contains("#QK~DlgBomShow~ShowListCtrl~GetChek"));
+}
+
+int firings = 0;
+void CountFiring(void*, unsigned, std::uintptr_t, unsigned long) { ++firings; }
+
+TEST_F(MainWindowTest, TheWindowsEventLoopDrivesTheProcessTimers) {
+  firings = 0;
+  std::uintptr_t id = platform::SetTimer(nullptr, 0, 10, CountFiring);
+  QTest::qWait(350);
+  platform::KillTimer(nullptr, id);
+  EXPECT_GE(firings, 2);
+}
+
+TEST_F(MainWindowTest, HostChooserAsksInAFileDialog) {
+  InstallHostChoosers();
+  std::filesystem::path chosen = dir_.path() / "out";
+  std::filesystem::create_directories(chosen);
+  QString caption;
+  auto* poll = new QTimer;
+  QObject::connect(poll, &QTimer::timeout, [&, poll] {
+    auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    if (!dialog) return;
+    poll->stop();
+    poll->deleteLater();
+    caption = dialog->windowTitle();
+    dialog->setDirectory(QString::fromStdString(chosen.string()));
+    dialog->selectFile(QString::fromStdString(chosen.string()));
+    QMetaObject::invokeMethod(dialog, "accept");
+  });
+  poll->start(5);
+  ProName label = L"选择目录";
+  ProPath start{};
+  ProPath selected{};
+  ProError status = ProDirectoryChoose(label, nullptr, nullptr, start, selected);
+  RemoveHostChoosers();
+  EXPECT_EQ(status, PRO_TK_NO_ERROR);
+  EXPECT_EQ(caption, "选择目录");
+  EXPECT_EQ(std::filesystem::path(selected), chosen);
+}
+
+}  // namespace

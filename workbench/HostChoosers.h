@@ -1,0 +1,7 @@
+// The host's own choosers in the window: a directory or a model file asked
+// of the user in a file dialog when no scripted answer is queued.
+#pragma once
+
+// Needs a QApplication. Until RemoveHostChoosers, choosers ask the user.
+void InstallHostChoosers();
+void RemoveHostChoosers();
