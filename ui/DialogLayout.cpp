@@ -7,11 +7,20 @@ CDialogLayout::CDialogLayout(QWidget* dialog) : QObject(dialog), dialog_(dialog)
   dialog_->installEventFilter(this);
 }
 
-void CDialogLayout::Init(int dialogId) { store_.Init(dialogId, this); }
+void CDialogLayout::Init(int dialogId) {
+  store_.Init(dialogId, this);
+  initialised_ = true;
+  for (auto [anchor, controlId] : waiting_) store_.Add(anchor, controlId);
+  waiting_.clear();
+}
 
 void CDialogLayout::Add(int anchor, int controlId, QWidget* control) {
   controls_[controlId] = control;
-  store_.Add(anchor, controlId);
+  if (initialised_) {
+    store_.Add(anchor, controlId);
+  } else {
+    waiting_.emplace_back(anchor, controlId);
+  }
 }
 
 void CDialogLayout::Enable(int flag) { store_.Enable(flag); }

@@ -5,6 +5,8 @@
 #include <QObject>
 
 #include <map>
+#include <utility>
+#include <vector>
 
 #include "LayoutStore.h"
 
@@ -15,9 +17,11 @@ class CDialogLayout : public QObject, private LayoutWindow {
   // A child of `dialog`, watching its resizes.
   explicit CDialogLayout(QWidget* dialog);
 
-  // As CLayoutStore: measures the dialog's present client size.
+  // As CLayoutStore: measures the dialog's present client size, and takes the
+  // anchors of the controls added so far from their present places.
   void Init(int dialogId);
-  // Registers `control` under `controlId` and anchors it.
+  // Registers `control` under `controlId`; it is anchored at Init, or at once
+  // when Init has run.
   void Add(int anchor, int controlId, QWidget* control);
   void Enable(int flag);
 
@@ -29,7 +33,9 @@ class CDialogLayout : public QObject, private LayoutWindow {
   std::optional<LayoutRect> ControlRect(int controlId) const override;
   void MoveControl(int controlId, const LayoutRect& rect) override;
 
-  QWidget* dialog_;                   // not owned: the parent
-  std::map<int, QWidget*> controls_;  // not owned: the dialog's children
+  QWidget* dialog_;                           // not owned: the parent
+  std::map<int, QWidget*> controls_;          // not owned: the dialog's children
+  std::vector<std::pair<int, int>> waiting_;  // anchor and control id until Init
+  bool initialised_ = false;
   CLayoutStore store_;
 };

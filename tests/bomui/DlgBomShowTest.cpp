@@ -377,7 +377,8 @@ TEST_F(DlgBomShowTest, TheListFollowsTheBottomRightCornerWhenResized) {
   QRect list0 = list->geometry();
   QRect save0 = Child("SaveParamButton")->geometry();
   dialog->resize(dialog->width() + 100, dialog->height() + 60);
-  QTRY_COMPARE(list->geometry().size(), list0.size() + QSize(100, 60));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return list->geometry().size() != list0.size(); }, 2000));
+  EXPECT_EQ(list->geometry().size(), list0.size() + QSize(100, 60));
   EXPECT_EQ(Child("SaveParamButton")->geometry().topLeft(), save0.topLeft() + QPoint(0, 60));
 }
 

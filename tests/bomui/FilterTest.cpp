@@ -101,7 +101,8 @@ TEST_F(FilterDialogTest, BomFilterSetShowsSchemeAfterDelayAndApplyWritesIt) {
   auto* name = dialog.findChild<QLineEdit*>("NameEdit");
   list->setCurrentRow(2);
   EXPECT_EQ(name->text(), "");
-  QTRY_COMPARE(name->text(), QString("只显示标准件"));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return name->text() == QString("只显示标准件"); }, 2000));
+  EXPECT_EQ(name->text(), QString("只显示标准件"));
   EXPECT_EQ(dialog.findChild<QComboBox*>("ShowCombo")->currentText(), "显示");
   EXPECT_EQ(dialog.findChild<QLineEdit*>("KeyEdit")->placeholderText(), "如:GB,GP");
 
