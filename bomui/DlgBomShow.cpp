@@ -307,8 +307,26 @@ int CDlgBomShow::SaveListParams() {
   return 1;
 }
 
-int CDlgBomShow::ExportToExcel(int) { return 0; }
-int CDlgBomShow::ExportToText(int) { return 0; }
+BomOutputTarget CDlgBomShow::OutputTarget() const {
+  return {outDir_->text().toStdWString(), fileName_->text().toStdWString()};
+}
+
+BomCheckedRows CDlgBomShow::CheckedRows(int rowCount) const {
+  BomCheckedRows rows;
+  int colCount = list_->columnCount();
+  for (int listRow = 0; listRow < rowCount && listRow < list_->GetItemCount(); ++listRow) {
+    if (!list_->GetCheck(listRow)) continue;
+    std::vector<std::wstring> cells;
+    for (int col = 0; col < colCount; ++col) cells.push_back(list_->GetItemText(listRow, col));
+    rows.push_back(std::move(cells));
+  }
+  return rows;
+}
+
+int CDlgBomShow::ExportToExcel(int rowCount) { return WriteBomExcel(OutputTarget(), CheckedRows(rowCount)); }
+int CDlgBomShow::ExportToText(int rowCount) {
+  return WriteBomText(OutputTarget(), cols_, CheckedRows(rowCount));
+}
 int CDlgBomShow::ExportToDrawing(int) { return 0; }
 
 void CDlgBomShow::OnLevel(int level) {

@@ -12,6 +12,7 @@
 
 #include <vector>
 
+#include "BomExport.h"
 #include "BomFilter.h"
 #include "BomMdl.h"
 #include "CfgOption.h"
@@ -69,8 +70,8 @@ class CDlgBomShow : public QDialog {
   // Writes every shown parameter cell of every list row to its model,
   // creating parameters that are missing; 1.
   int SaveListParams();
-  // The outputs of the button "输出"; they come with the outputs' own work
-  // and do nothing yet.
+  // The outputs of the button "输出" over the first `rowCount` list rows; the
+  // drawing table comes with its own work and does nothing yet.
   int ExportToExcel(int rowCount);
   int ExportToText(int rowCount);
   int ExportToDrawing(int rowCount);
@@ -101,6 +102,8 @@ class CDlgBomShow : public QDialog {
   void SetChecks(bool selectedOnly, bool checked);
   const BomMdl* RowOfListRow(int listRow) const;
   void FillFilterBox();
+  BomOutputTarget OutputTarget() const;
+  BomCheckedRows CheckedRows(int rowCount) const;
 
   std::vector<ColInfo> cols_;
   std::vector<ColInfo> sortCols_;

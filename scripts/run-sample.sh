@@ -7,4 +7,4 @@ cd "$(dirname "$0")/.."
 scripts/setup.sh
 cmake --preset release >/dev/null
 cmake --build --preset release -j 2
-exec build/release/workbench/bom-workbench commands "$@"
+exec build/release/workbench/bom-workbench bom "$@"

@@ -38,6 +38,50 @@ bool ParseRowsOption(const std::string& name, const std::string& value, RowsOpti
   return true;
 }
 
+bool ParseIndex(const std::string& value, int& index) {
+  if (value.empty() || value.find_first_not_of("0123456789") != std::string::npos || value.size() > 6)
+    return false;
+  index = std::stoi(value);
+  return true;
+}
+
+// False for an option that the bom job does not know.
+bool ParseBomOption(const std::string& name, const std::string& value, BomOptions& bom, std::string& error) {
+  int index = 0;
+  if (name == "--level") {
+    bom.level = value;
+    if (value != "single" && value != "multi" && value != "summary") error = "unknown level: " + value;
+  } else if (name == "--sort" || name == "--filter") {
+    if (!ParseIndex(value, index)) error = name + " takes an entry number from 0";
+    (name == "--sort" ? bom.sort : bom.filter) = index;
+  } else if (name == "--out") {
+    bom.out = platform::ToWide(value);
+  } else if (name == "--name") {
+    bom.name = platform::ToWide(value);
+  } else {
+    return false;
+  }
+  return true;
+}
+
+// The bom job's options without a value; false for any other name.
+bool ParseBomFlag(const std::string& name, BomOptions& bom) {
+  if (name == "--excel") {
+    bom.excel = true;
+  } else if (name == "--text") {
+    bom.text = true;
+  } else if (name == "--overwrite") {
+    bom.overwrite = true;
+  } else {
+    return false;
+  }
+  return true;
+}
+
+bool SetsNoControl(const BomOptions& bom) {
+  return !bom.level && !bom.sort && !bom.filter && !bom.excel && !bom.text && !bom.out && !bom.name;
+}
+
 }  // namespace
 
 ParseResult ParseOptions(const std::vector<std::string>& args) {
@@ -45,10 +89,13 @@ ParseResult ParseOptions(const std::vector<std::string>& args) {
   WorkbenchOptions options{args[0], BOM_SAMPLE_SESSION, std::nullopt, BOM_PLUGIN_ROOT, "bom-work"};
   const bool rowsJob = options.job == "rows";
   const bool guiJob = options.job == "gui";
-  if (options.job != "commands" && !rowsJob && !guiJob) return {std::nullopt, "unknown job: " + options.job};
+  const bool bomJob = options.job == "bom";
+  if (options.job != "commands" && !rowsJob && !guiJob && !bomJob)
+    return {std::nullopt, "unknown job: " + options.job};
 
   for (size_t i = 1; i < args.size(); ++i) {
     const std::string& name = args[i];
+    if (bomJob && ParseBomFlag(name, options.bom)) continue;
     if (i + 1 >= args.size()) return {std::nullopt, "missing value of " + name};
     const std::string& value = args[++i];
     if (name == "--session") {
@@ -63,13 +110,21 @@ ParseResult ParseOptions(const std::vector<std::string>& args) {
       options.gui.run.push_back(value);
     } else if (guiJob && name == "--screenshot") {
       options.gui.screenshot = value;
-    } else if (std::string error; !rowsJob || !ParseRowsOption(name, value, options.rows, error)) {
+    } else if (std::string error; bomJob) {
+      if (!ParseBomOption(name, value, options.bom, error)) return {std::nullopt, "unknown option: " + name};
+      if (!error.empty()) return {std::nullopt, error};
+    } else if (!rowsJob || !ParseRowsOption(name, value, options.rows, error)) {
       return {std::nullopt, "unknown option: " + name};
     } else if (!error.empty()) {
       return {std::nullopt, error};
     }
   }
   if (rowsJob && options.rows.level.empty()) return {std::nullopt, "the rows job needs --level"};
+  if (bomJob && SetsNoControl(options.bom)) {
+    options.bom.level = "multi";
+    options.bom.excel = options.bom.text = true;
+    options.bom.out = platform::ToWide((options.workdir / "out").string() + "/");
+  }
   return {options, ""};
 }
 
@@ -82,5 +137,10 @@ std::string Usage() {
          "                          [--filter-key KEY] [--filter-values V1,V2,...] [--keep-matches 0|1]\n"
          "       bom-workbench gui [--session DIR] [--current FILE|none] [--plugin-root DIR] [--workdir "
          "DIR]\n"
-         "                         [--run ACTION]... [--screenshot FILE.png]\n";
+         "                         [--run ACTION]... [--screenshot FILE.png]\n"
+         "       bom-workbench bom [--session DIR] [--current FILE|none] [--plugin-root DIR] [--workdir "
+         "DIR]\n"
+         "                         [--level single|multi|summary] [--sort N] [--filter N] [--excel] "
+         "[--text]\n"
+         "                         [--out DIR] [--name NAME] [--overwrite]\n";
 }

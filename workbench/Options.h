@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "BomJob.h"
 #include "GuiJob.h"
 
 // The job "rows": which list, and the collection's settings.
@@ -27,6 +28,7 @@ struct WorkbenchOptions {
   std::filesystem::path workdir;
   RowsOptions rows{};
   GuiOptions gui{};
+  BomOptions bom{};
 };
 
 struct ParseResult {
@@ -35,7 +37,8 @@ struct ParseResult {
 };
 
 // Defaults: the bundled sample session, the staged plug-in root of the build
-// tree and ./bom-work.
+// tree and ./bom-work. The bom job given none of its dialog's options runs as
+// --level multi --excel --text --out <workdir>/out/.
 ParseResult ParseOptions(const std::vector<std::string>& args);
 
 std::string Usage();

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "BomJob.h"
 #include "CodePage.h"
 #include "CommandsJob.h"
 #include "GuiJob.h"
@@ -33,6 +34,8 @@ int main(int argc, char* argv[]) {
   int exitCode = 0;
   if (options.job == "rows") {
     exitCode = PrintRows(options.rows, std::cout, std::cerr);
+  } else if (options.job == "bom") {
+    exitCode = RunBomJob(options.bom, std::cout, std::cerr, argc, argv);
   } else if (options.job == "gui") {
     exitCode = RunGui(options.gui, argc, argv);
   } else {

@@ -1,0 +1,126 @@
+#include "BomExport.h"
+
+#include "CfgOption.h"
+#include "ExcelApp.h"
+#include "Files.h"
+#include "MessageBox.h"
+#include "ProMdl.h"
+#include "TkBOM.h"
+#include "TkFile.h"
+#include "TkLog.h"
+#include "TkParam.h"
+
+namespace {
+
+const wchar_t kCaption[] = L"提示";
+constexpr int kParamDecimals = 2;
+
+bool AskYes(const std::wstring& question) {
+  return platform::MessageBox(nullptr, question, kCaption, platform::kMbYesNo) == platform::kIdYes;
+}
+
+void Tell(const std::wstring& text) { CTkLog().ShowPrompt(text, kCaption, platform::kMbOk, nullptr, 0); }
+
+// The outputs remove their target file first and do not look at the result;
+// a directory of that name is left alone.
+void DeleteTargetFile(const std::wstring& path) {
+  if (!platform::DirectoryExists(path)) platform::DeletePermanently(path);
+}
+
+void OfferToOpen(ExcelApp& excel, const std::wstring& path) {
+  if (AskYes(L"是否打开：" + path + L" ？")) excel.OpenFileInShell(path);
+}
+
+void WriteHeadCells(ExcelApp& excel, const std::wstring& sheet, ProMdl current) {
+  CCfgOption option;
+  int dateRow = 0;
+  int dateCol = 0;
+  option.GetDataCell(dateRow, dateCol);
+  excel.SetCellText(sheet, dateRow, dateCol, TkBOM().GetTodayText());
+  std::vector<ExcelParam> cells;
+  option.GetOtherCells(cells);
+  CTkParam param;
+  for (const ExcelParam& cell : cells) {
+    excel.SetCellText(sheet, cell.row, cell.col,
+                      param.GetMdlParamValue(current, cell.paramName, kParamDecimals));
+  }
+}
+
+}  // namespace
+
+std::wstring BomExcelDir(const std::wstring& outDir) { return outDir + L"Excel"; }
+
+std::wstring BomTextPath(const BomOutputTarget& target) {
+  return target.outDir + L"\\" + target.fileName + L".txt";
+}
+
+std::wstring BomTextHeaderLine(const std::vector<ColInfo>& cols) {
+  std::wstring line;
+  for (const ColInfo& col : cols) {
+    if (col.show) line += col.name + L"\t";
+  }
+  return line;
+}
+
+std::wstring BomTextLine(const std::vector<std::wstring>& cells) {
+  std::wstring line;
+  for (const std::wstring& text : cells) {
+    if (text.empty()) line += L"\t";
+    line += text + L"\t";
+    if (text.size() > 1 && text.size() < 8) line += L"\t";
+  }
+  return line;
+}
+
+int WriteBomExcel(const BomOutputTarget& target, const BomCheckedRows& rows) {
+  ProMdl current = nullptr;
+  if (ProMdlCurrentGet(&current) != PRO_TK_NO_ERROR) return 0;
+  CCfgOption option;
+  const std::wstring sheet = option.GetPageName();
+  // "RowNumOfPage" is read with the layout but pages nothing: every row goes
+  // to the one sheet, so the template needs no spare sheets.
+  int firstRow = 0;
+  int firstCol = 0;
+  int rowsOfPage = 0;
+  option.GetTblLayout(firstRow, firstCol, rowsOfPage);
+
+  const std::wstring dir = BomExcelDir(target.outDir);
+  platform::CreateDirectory(dir);
+  const std::wstring path = dir + L"\\" + target.fileName + L".xls";
+  if (CTkFile().FileExists(path) && !AskYes(L"文件：" + path + L" 已经存在，是否覆盖？")) return 0;
+  DeleteTargetFile(path);
+
+  ExcelApp excel;
+  if (!excel.StartExcel(1)) {
+    Tell(L"启动Excel失败");
+    return 0;
+  }
+  // Lower case here; the file system's lookup finds the delivered BOM.xls.
+  if (!excel.NewFromTemplate(CTkFile().GetAppDir() + L"\\template\\bom.xls")) {
+    Tell(L"新建Excel失败");
+    return 0;
+  }
+  WriteHeadCells(excel, sheet, current);
+  int targetRow = firstRow;
+  for (const std::vector<std::wstring>& cells : rows) {
+    for (int col = 0; col < static_cast<int>(cells.size()); ++col) {
+      excel.SetCellText(sheet, targetRow, firstCol + col, cells[col]);
+    }
+    ++targetRow;
+  }
+  excel.SaveWorkbookAs(dir, target.fileName);
+  excel.CloseAll();
+  OfferToOpen(excel, path);
+  return 1;
+}
+
+int WriteBomText(const BomOutputTarget& target, const std::vector<ColInfo>& cols,
+                 const BomCheckedRows& rows) {
+  const std::wstring path = BomTextPath(target);
+  DeleteTargetFile(path);
+  ExcelApp excel;
+  excel.AppendLine(path, BomTextHeaderLine(cols) + L"\r\n", 0);
+  for (const std::vector<std::wstring>& cells : rows) excel.AppendLine(path, BomTextLine(cells) + L"\r\n", 0);
+  OfferToOpen(excel, path);
+  return 1;
+}

@@ -1,0 +1,252 @@
+// The outputs of the button "输出": the list as it stands on the screen goes to
+// a workbook from the delivered template and to a tab-aligned text file.
+#include <gtest/gtest.h>
+
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include <filesystem>
+#include <memory>
+
+#include "BomExport.h"
+#include "CfgOption.h"
+#include "CodePage.h"
+#include "DlgBomShow.h"
+#include "HostControl.h"
+#include "IniEx.h"
+#include "ListCtrlEx.h"
+#include "MessageBox.h"
+#include "PluginHost.h"
+#include "ReadBack.h"
+#include "Shell.h"
+#include "TkBOM.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+TEST(BomTextLine, TabsFollowTheCharacterCount) {
+  EXPECT_EQ(BomTextLine({L""}), L"\t\t");
+  EXPECT_EQ(BomTextLine({L"8"}), L"8\t");
+  EXPECT_EQ(BomTextLine({L"ab"}), L"ab\t\t");
+  EXPECT_EQ(BomTextLine({L"1234567"}), L"1234567\t\t");
+  EXPECT_EQ(BomTextLine({L"12345678"}), L"12345678\t");
+  // Wide characters count as one each: the alignment is by character count.
+  EXPECT_EQ(BomTextLine({L"齿轮轴", L"", L"轴"}), L"齿轮轴\t\t\t\t轴\t");
+}
+
+TEST(BomTextLine, HeaderNamesOnlyTheShownColumnsEachFollowedByATab) {
+  std::vector<ColInfo> cols(3);
+  cols[0].name = L"序号";
+  cols[0].show = 1;
+  cols[1].name = L"外形尺寸";
+  cols[2].name = L"名称";
+  cols[2].show = 1;
+  EXPECT_EQ(BomTextHeaderLine(cols), L"序号\t名称\t");
+}
+
+TEST(BomOutputPaths, ExcelIsAppendedWithoutSeparatorAndTheTextPathAddsOne) {
+  EXPECT_EQ(BomExcelDir(L"D:\\work\\"), L"D:\\work\\Excel");
+  EXPECT_EQ(BomExcelDir(L"D:\\work"), L"D:\\workExcel");
+  EXPECT_EQ(BomTextPath({L"D:\\work\\", L"a"}), L"D:\\work\\\\a.txt");
+  EXPECT_EQ(BomTextPath({L"D:\\work", L"a"}), L"D:\\work\\a.txt");
+}
+
+// The sample reducer in session with the delivered settings, its list dialog
+// open. Questions are answered as `answerYes` says, the shell's opens are
+// recorded, and every cell of the list gets a known text.
+class BomExportTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    ASSERT_EQ(sim::LoadSession(fs::path(BOM_SAMPLES_DIR) / "reducer"), PRO_TK_NO_ERROR);
+    previousBox_ = platform::SetMessageBoxHandler([this](const platform::MessageBoxRequest& request) {
+      prompts.push_back(request.caption + L":" + request.text);
+      if (request.flags != platform::kMbYesNo) return platform::kIdOk;
+      return answerYes ? platform::kIdYes : platform::kIdNo;
+    });
+    previousShell_ = platform::SetShellOpenHandler([this](const platform::ShellOpenRequest& request) {
+      opened.push_back(request.path);
+      return true;
+    });
+  }
+  void TearDown() override {
+    dialog.reset();
+    platform::SetMessageBoxHandler(previousBox_);
+    platform::SetShellOpenHandler(previousShell_);
+  }
+
+  void Open() {
+    dialog = std::make_unique<CDlgBomShow>();
+    dialog->OnInitDialog();
+    list = dialog->findChild<CListCtrlEx*>("BomList");
+    ASSERT_GT(list->GetItemCount(), 4);
+    for (int row = 0; row < list->GetItemCount(); ++row) {
+      for (int col = 0; col < list->columnCount(); ++col) list->SetItemText(row, col, CellText(row, col));
+    }
+    outDir()->setText(QString::fromStdWString(dir.Wide("out") + L"\\"));
+    fs::create_directory(dir.path() / "out");
+    dialog->findChild<QLineEdit*>("FileNameEdit")->setText("清单");
+  }
+  static std::wstring CellText(int row, int col) {
+    return L"行" + std::to_wstring(row) + L"列" + std::to_wstring(col);
+  }
+  QLineEdit* outDir() const { return dialog->findChild<QLineEdit*>("OutDirEdit"); }
+  void Press(bool excel, bool text) {
+    dialog->findChild<QCheckBox*>("ExcelCheck")->setChecked(excel);
+    dialog->findChild<QCheckBox*>("TextCheck")->setChecked(text);
+    dialog->findChild<QPushButton*>("ExportButton")->click();
+  }
+  void SetExcelCfg(const std::wstring& section, const std::wstring& key, const std::wstring& value) {
+    CIniEx().SetValue(CCfgOption().GetExcelCfgPath(), section, key, value, L"");
+  }
+  fs::path Workbook() const { return dir.path() / "out" / "Excel" / "清单.xls"; }
+  std::wstring WorkbookPath() const { return dir.Wide("out") + L"\\Excel\\清单.xls"; }
+  std::wstring TextPath() const { return dir.Wide("out") + L"\\\\清单.txt"; }
+  // The head cells of the delivered Excel.cfg: date J2, 图号 C2, 名称 F2.
+  static std::vector<ExpectedCell> HeadCells() {
+    return {TextCell("bom", 2, 10, platform::ToNarrow(TkBOM().GetTodayText())),
+            TextCell("bom", 2, 3, "JSQ-00-000"), TextCell("bom", 2, 6, "二级圆柱齿轮减速器")};
+  }
+  // Expected sheet cells of list rows written one under the other from
+  // `firstRow`, `firstCol`.
+  std::vector<ExpectedCell> TableCells(const std::vector<int>& listRows, int firstRow, int firstCol) const {
+    std::vector<ExpectedCell> cells;
+    for (size_t i = 0; i < listRows.size(); ++i) {
+      for (int col = 0; col < list->columnCount(); ++col) {
+        cells.push_back(TextCell("bom", firstRow + static_cast<int>(i), firstCol + col,
+                                 platform::ToNarrow(CellText(listRows[i], col))));
+      }
+    }
+    return cells;
+  }
+
+  TestDir dir;
+  PluginHost host{dir};
+  bool answerYes = false;
+  std::vector<std::wstring> prompts;
+  std::vector<std::wstring> opened;
+  std::unique_ptr<CDlgBomShow> dialog;
+  CListCtrlEx* list = nullptr;
+
+ private:
+  platform::MessageBoxHandler previousBox_;
+  platform::ShellOpenHandler previousShell_;
+};
+
+TEST_F(BomExportTest, ExcelHoldsOnlyTheCheckedRowsWithoutGapsBelowDateAndParameters) {
+  Open();
+  list->SetCheck(1, false);
+  list->SetCheck(3, false);
+  std::vector<int> checked;
+  for (int row = 0; row < list->GetItemCount(); ++row) {
+    if (list->GetCheck(row)) checked.push_back(row);
+  }
+  Press(true, false);
+
+  ASSERT_TRUE(fs::exists(Workbook()));
+  std::vector<ExpectedCell> cells = HeadCells();
+  for (const ExpectedCell& cell : TableCells(checked, 4, 1)) cells.push_back(cell);
+  int afterLast = 4 + static_cast<int>(checked.size());
+  for (int col = 1; col <= list->columnCount(); ++col) cells.push_back(EmptyCell("bom", afterLast, col));
+  ExpectIndependentReadersAgree({{Workbook(), fs::path(BOM_STAGE_DIR) / "template" / "BOM.xls", cells}},
+                                dir.path());
+  EXPECT_EQ(prompts, std::vector<std::wstring>{L"提示:是否打开：" + WorkbookPath() + L" ？"});
+  EXPECT_TRUE(opened.empty());
+}
+
+TEST_F(BomExportTest, ExcelTableStartsAtTheConfiguredCellAndIgnoresThePageLength) {
+  SetExcelCfg(L"ExcelTbl", L"BegainRow", L"6");
+  SetExcelCfg(L"ExcelTbl", L"BegainCol", L"C");
+  SetExcelCfg(L"ExcelTbl", L"RowNumOfPage", L"2");
+  Open();
+  std::vector<int> all;
+  for (int row = 0; row < list->GetItemCount(); ++row) all.push_back(row);
+  answerYes = true;
+  Press(true, false);
+
+  ASSERT_TRUE(fs::exists(Workbook()));
+  std::vector<ExpectedCell> cells = TableCells(all, 6, 3);
+  cells.push_back(EmptyCell("bom", 6, 2));
+  ExpectIndependentReadersAgree({{Workbook(), {}, cells}}, dir.path());
+  EXPECT_EQ(opened, std::vector<std::wstring>{WorkbookPath()});
+}
+
+TEST_F(BomExportTest, NothingCheckedGivesTheTemplateWithDateAndParametersOnly) {
+  Open();
+  for (int row = 0; row < list->GetItemCount(); ++row) list->SetCheck(row, false);
+  Press(true, false);
+  std::vector<ExpectedCell> cells = HeadCells();
+  for (int col = 1; col <= list->columnCount(); ++col) cells.push_back(EmptyCell("bom", 4, col));
+  ExpectIndependentReadersAgree({{Workbook(), fs::path(BOM_STAGE_DIR) / "template" / "BOM.xls", cells}},
+                                dir.path());
+}
+
+TEST_F(BomExportTest, ExistingWorkbookIsKeptWhenOverwritingIsDeclined) {
+  Open();
+  fs::create_directories(Workbook().parent_path());
+  dir.Write("out/Excel/清单.xls", "mine");
+  Press(true, false);
+  EXPECT_EQ(dir.Read("out/Excel/清单.xls"), "mine");
+  EXPECT_EQ(prompts, std::vector<std::wstring>{L"提示:文件：" + WorkbookPath() + L" 已经存在，是否覆盖？"});
+
+  answerYes = true;
+  Press(true, false);
+  EXPECT_NE(dir.Read("out/Excel/清单.xls"), "mine");
+  EXPECT_TRUE(PythonReaderProblems({Workbook(), {}, HeadCells()}, dir.path()).empty());
+}
+
+TEST_F(BomExportTest, DirectoryFieldWithoutBackslashGetsASiblingEndingInExcel) {
+  Open();
+  outDir()->setText(QString::fromStdWString(dir.Wide("out")));
+  Press(true, false);
+  EXPECT_TRUE(fs::exists(dir.path() / "outExcel" / "清单.xls"));
+  EXPECT_FALSE(fs::exists(dir.path() / "out" / "Excel"));
+}
+
+TEST_F(BomExportTest, MissingTemplateIsToldAndNothingIsSaved) {
+  Open();
+  fs::remove(fs::path(platform::ToNarrow(host.TextRoot())) / "template" / "BOM.xls");
+  Press(true, false);
+  EXPECT_EQ(prompts, std::vector<std::wstring>{L"提示:新建Excel失败"});
+  EXPECT_TRUE(fs::is_empty(dir.path() / "out" / "Excel"));
+}
+
+TEST_F(BomExportTest, WithoutCurrentModelOnlyTheTextIsWritten) {
+  Open();
+  sim::SetCurrentModel(nullptr);
+  Press(true, true);
+  EXPECT_FALSE(fs::exists(dir.path() / "out" / "Excel"));
+  EXPECT_TRUE(fs::exists(dir.path() / "out" / "清单.txt"));
+}
+
+TEST_F(BomExportTest, TextHoldsTheHeaderAndTheCheckedRowsByteForByte) {
+  Open();
+  list->SetItemText(0, 0, L"");
+  list->SetItemText(0, 1, L"1");
+  list->SetItemText(0, 2, L"JSQ-00-000");
+  for (int row = 2; row < list->GetItemCount(); ++row) list->SetCheck(row, false);
+  dir.Write("out/清单.txt", "old contents to be replaced\n");
+  answerYes = true;
+  Press(false, true);
+
+  std::wstring expected =
+      L"序号\t层级\t图号\t名称\t数量\t材料\t重量\t总重\t备注\t模型名称\t\r\n\t\t1\tJSQ-00-000\t";
+  for (int col = 3; col < list->columnCount(); ++col) expected += CellText(0, col) + L"\t\t";
+  expected += L"\r\n";
+  for (int col = 0; col < list->columnCount(); ++col) expected += CellText(1, col) + L"\t\t";
+  expected += L"\r\n";
+  EXPECT_EQ(dir.Read("out/清单.txt"), platform::ToNarrow(expected));
+  EXPECT_EQ(prompts, std::vector<std::wstring>{L"提示:是否打开：" + TextPath() + L" ？"});
+  EXPECT_EQ(opened, std::vector<std::wstring>{TextPath()});
+}
+
+TEST_F(BomExportTest, TextWithNothingCheckedHoldsTheHeaderLineOnly) {
+  Open();
+  for (int row = 0; row < list->GetItemCount(); ++row) list->SetCheck(row, false);
+  Press(false, true);
+  EXPECT_EQ(dir.Read("out/清单.txt"), "序号\t层级\t图号\t名称\t数量\t材料\t重量\t总重\t备注\t模型名称\t\r\n");
+  EXPECT_FALSE(fs::exists(dir.path() / "out" / "Excel"));
+}
+
+}  // namespace

@@ -1,0 +1,137 @@
+// The main job on the sample session: the BOM list opened by its command,
+// its controls set from the options and "输出" pressed, with no display.
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <filesystem>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "TestDir.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+struct JobRun {
+  int exitCode = -1;
+  std::vector<std::string> lines;  // standard output
+  std::string err;
+};
+
+std::vector<std::string> Lines(const std::string& text) {
+  std::vector<std::string> lines;
+  std::istringstream in(text);
+  for (std::string line; std::getline(in, line);) lines.push_back(line);
+  return lines;
+}
+
+class BomJobTest : public testing::Test {
+ protected:
+  JobRun Run(const std::string& job, const std::string& arguments) {
+    auto root = dir_.path() / "app";
+    if (!fs::exists(root)) fs::copy(BOM_STAGE_DIR, root, fs::copy_options::recursive);
+    fs::path errFile = dir_.path() / "stderr.txt";
+    std::string command = "env -u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM " +
+                          std::string(BOM_WORKBENCH) + " " + job + " --workdir '" + Work().string() +
+                          "' --plugin-root '" + root.string() + "' " + arguments + " 2>'" + errFile.string() +
+                          "'";
+    JobRun run;
+    std::string out;
+    FILE* pipe = popen(command.c_str(), "r");
+    char buffer[4096];
+    while (size_t n = fread(buffer, 1, sizeof buffer, pipe)) out.append(buffer, n);
+    run.exitCode = WEXITSTATUS(pclose(pipe));
+    run.lines = Lines(out);
+    run.err = dir_.Read("stderr.txt");
+    return run;
+  }
+  JobRun Bom(const std::string& arguments) { return Run("bom", arguments); }
+  // The number of rows of a list as the rows job collects it.
+  size_t RowCount(const std::string& level) { return Run("rows", "--level " + level).lines.size(); }
+  fs::path Work() const { return dir_.path() / "work"; }
+  fs::path Out() const { return dir_.path() / "out"; }
+  std::string OutOption() const { return "--out '" + Out().string() + "/'"; }
+  std::vector<std::string> TextLines(const fs::path& file) const {
+    return Lines(dir_.Read(fs::relative(file, dir_.path()).string()));
+  }
+
+  TestDir dir_;
+};
+
+TEST_F(BomJobTest, WithoutOptionsTheMultiLevelListGoesToExcelAndTextUnderOut) {
+  JobRun run = Bom("");
+  ASSERT_EQ(run.exitCode, 0) << run.err;
+  fs::path workbook = Work() / "out" / "Excel" / "REDUCER_零件明细.xls";
+  fs::path text = Work() / "out" / "REDUCER_零件明细.txt";
+  EXPECT_TRUE(fs::exists(workbook));
+  std::vector<std::string> lines = TextLines(text);
+  ASSERT_FALSE(lines.empty());
+  EXPECT_EQ(lines[0].rfind("序号\t层级\t", 0), 0u) << lines[0];
+  EXPECT_EQ(lines.size(), RowCount("multi") + 1);
+  std::string out = Work().string() + "/out/";
+  EXPECT_EQ(run.lines, (std::vector<std::string>{
+                           "prompt 提示: 是否打开：" + out + "Excel\\REDUCER_零件明细.xls ？ -> no",
+                           "wrote " + workbook.string(),
+                           "prompt 提示: 是否打开：" + out + "\\REDUCER_零件明细.txt ？ -> no",
+                           "wrote " + text.string(),
+                       }));
+}
+
+TEST_F(BomJobTest, OnlyTheGivenOptionsSetTheirControls) {
+  // The delivered settings check no output box: without --excel only the text
+  // is written.
+  JobRun run = Bom("--level single --text --name 清单 " + OutOption());
+  ASSERT_EQ(run.exitCode, 0) << run.err;
+  EXPECT_FALSE(fs::exists(Out() / "Excel"));
+  EXPECT_EQ(TextLines(Out() / "清单.txt").size(), RowCount("single") + 1);
+  EXPECT_FALSE(fs::exists(Work() / "out"));
+}
+
+TEST_F(BomJobTest, ExistingWorkbookIsReplacedOnlyWithOverwrite) {
+  fs::create_directories(Out() / "Excel");
+  dir_.Write("out/Excel/清单.xls", "mine");
+  JobRun declined = Bom("--excel --name 清单 " + OutOption());
+  ASSERT_EQ(declined.exitCode, 0) << declined.err;
+  EXPECT_EQ(dir_.Read("out/Excel/清单.xls"), "mine");
+  ASSERT_EQ(declined.lines.size(), 1u);
+  EXPECT_NE(declined.lines[0].find("已经存在，是否覆盖？ -> no"), std::string::npos) << declined.lines[0];
+
+  JobRun accepted = Bom("--excel --name 清单 --overwrite " + OutOption());
+  ASSERT_EQ(accepted.exitCode, 0) << accepted.err;
+  EXPECT_NE(dir_.Read("out/Excel/清单.xls"), "mine");
+  ASSERT_EQ(accepted.lines.size(), 3u);
+  EXPECT_NE(accepted.lines[0].find("已经存在，是否覆盖？ -> yes"), std::string::npos) << accepted.lines[0];
+  EXPECT_EQ(accepted.lines[2], "wrote " + (Out() / "Excel" / "清单.xls").string());
+}
+
+TEST_F(BomJobTest, SortAndFilterEntriesAreChosenAsTheUserCould) {
+  ASSERT_EQ(Bom("--level multi --text --name tree " + OutOption()).exitCode, 0);
+  JobRun sorted = Bom("--level multi --sort 1 --text --name sorted " + OutOption());
+  ASSERT_EQ(sorted.exitCode, 0) << sorted.err;
+  // The first sort entry orders the rows by 图号 within their levels.
+  std::vector<std::string> tree = TextLines(Out() / "tree.txt");
+  std::vector<std::string> byNumber = TextLines(Out() / "sorted.txt");
+  EXPECT_EQ(byNumber.size(), tree.size());
+  EXPECT_NE(byNumber, tree);
+
+  JobRun disabled = Bom("--level single --sort 1 --text");
+  EXPECT_EQ(disabled.exitCode, 1);
+  EXPECT_NE(disabled.err.find("SortCombo is disabled"), std::string::npos) << disabled.err;
+  JobRun missing = Bom("--filter 99 --text");
+  EXPECT_EQ(missing.exitCode, 1);
+  EXPECT_NE(missing.err.find("FilterCombo has no entry 99"), std::string::npos) << missing.err;
+  EXPECT_TRUE(missing.lines.empty());
+}
+
+TEST_F(BomJobTest, BadOptionsAndAPartAsCurrentModelAreRefused) {
+  EXPECT_EQ(Bom("--level deep").exitCode, 2);
+  EXPECT_EQ(Bom("--sort x").exitCode, 2);
+  EXPECT_EQ(Bom("--pick").exitCode, 2);
+  JobRun part = Bom("--current housing.prt");
+  EXPECT_EQ(part.exitCode, 1);
+  EXPECT_NE(part.err.find("CmdBOMShowId is not available"), std::string::npos) << part.err;
+}
+
+}  // namespace
