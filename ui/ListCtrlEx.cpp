@@ -58,6 +58,8 @@ CListCtrlEx::CListCtrlEx(QWidget* parent) : QTableWidget(parent) {
   connect(horizontalHeader(), &QHeaderView::sectionClicked, this, &CListCtrlEx::SortByColumn);
 }
 
+CListCtrlEx::~CListCtrlEx() { qDeleteAll(findChildren<CITPComboBox*>()); }
+
 void CListCtrlEx::SetEditMode(int mode, const std::vector<int>& fixedCols, const std::vector<int>& editCols) {
   mode_ = mode;
   switch (mode) {

@@ -27,6 +27,9 @@ class CListCtrlEx : public QTableWidget {
   static constexpr int kModeEditColumns = 1;
 
   explicit CListCtrlEx(QWidget* parent = nullptr);
+  // An open drop-down goes first: it must not commit into a list that is
+  // already being torn down.
+  ~CListCtrlEx() override;
 
   // Mode 0 keeps the fixed columns, mode 1 the edit columns, modes 3 and 4
   // both; any other mode keeps only the mode. Columns are not checked
