@@ -9,4 +9,9 @@ PRO_BEGIN_C_DECLS
 // the drawing shows no model.
 extern ProError ProDrawingSolidsCollect(ProDrawing drawing, ProSolid** solids);
 
+// Sheets count from 1. The transformation takes a point of the sheet into the
+// drawing's coordinates; `sheet_size` names the format, such as "A3".
+extern ProError ProDrawingSheetTrfGet(ProDrawing drawing, int sheet, ProName sheet_size, ProMatrix transform);
+extern ProError ProDrawingCurrentSheetGet(ProDrawing drawing, int* sheet);
+
 PRO_END_C_DECLS

@@ -44,6 +44,12 @@ ProMdl OpenModel(const std::wstring& fileName);
 // empties it, so that there is no current model. False for an unknown model.
 bool SetCurrentModel(ProMdl model);
 
+// Writes the model's file as a save would, but into `dir` and without
+// touching the model: its origin, version and modification stay. The file's
+// version is one above the highest of the model's files in `dir`. Nullopt for
+// an unknown model or a file that cannot be written.
+std::optional<std::filesystem::path> WriteModelCopy(ProMdl model, const std::filesystem::path& dir);
+
 // Control comes back to the host after an action: a requested window
 // activation takes effect.
 void ReturnToHost();
@@ -58,14 +64,18 @@ bool RunAction(const std::string& actionName);
 
 // Scripted answers for the host's choosers, one queue per call name;
 // nullopt is the user cancelling. TakeAnswer on an empty queue also gives
-// nullopt: nobody there to choose.
+// nullopt: nobody there to choose. The answers are texts: a path for
+// "ProDirectoryChoose" and "ProFileMdlfiletypeOpen"; for "ProMousePickGet" the
+// point clicked, "x,y" or "x,y,z" (z 0 when left out), where a cancel or a
+// text of another form is the user aborting the pick.
 void PushAnswer(const std::string& callName, std::optional<std::wstring> answer);
 std::optional<std::wstring> TakeAnswer(const std::string& callName);
 
 // Answers a chooser when nothing is queued for it, as a user would: the
 // windowed workbench shows a dialog of its own. Called on the thread of the
 // toolkit call with the host unlocked; nullopt is the user cancelling. Null
-// removes it, and then an empty queue is a cancel again.
+// removes it, and then an empty queue is a cancel again. The mouse pick asks
+// with an empty label and default.
 using AnswerProvider = std::function<std::optional<std::wstring>(
     const std::string& callName, const std::wstring& label, const std::wstring& defaultPath)>;
 void SetAnswerProvider(AnswerProvider provider);

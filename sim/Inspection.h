@@ -53,6 +53,7 @@ struct MessageArea {
 struct SessionModel {
   ProMdl handle = nullptr;
   std::wstring fileName;  // as found on disk or as given to AddModel
+  bool modified = false;  // changed in session since loaded or saved
 };
 
 std::vector<MenuItem> MenuBar();

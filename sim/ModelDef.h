@@ -2,6 +2,7 @@
 // AddModel puts into session without a file.
 #pragma once
 
+#include "ProDwgtable.h"
 #include "ProObjects.h"
 #include "ProParamval.h"
 
@@ -56,6 +57,50 @@ struct SurfaceDef {
   std::array<double, 3> max{};
 };
 
+// A drawing's sheet: its format and the placement of its coordinates in the
+// drawing's.
+struct SheetDef {
+  std::wstring size = L"A3";
+  Transform transform = kIdentity;
+};
+
+// Lengths of tables are in the units of their sheet.
+struct ColumnDef {
+  double width = 0;
+  ProHorzJust justification = PROHORZJUST_LEFT;
+};
+
+struct NoteTextDef {
+  std::wstring text;
+  double height = 3.5;
+  double widthFactor = 0.8;
+
+  bool operator==(const NoteTextDef&) const = default;
+};
+
+using NoteLineDef = std::vector<NoteTextDef>;
+
+// A cell that holds a note; cells without one are not listed.
+struct CellDef {
+  int row = 1;  // rows and columns count from 1
+  int column = 1;
+  int noteId = 0;
+  std::vector<NoteLineDef> lines;
+};
+
+// A table grows downward from its origin, its top-left corner on the sheet.
+// Its id and the ids of its cells' notes are model-item ids of the drawing.
+struct TableDef {
+  int id = 0;
+  int sheet = 1;
+  std::array<double, 3> origin{};
+  double charHeight = 3.5;
+  double charWidth = 2.8;
+  std::vector<ColumnDef> columns;
+  std::vector<double> rows;  // heights, top row first
+  std::vector<CellDef> cells;
+};
+
 struct ModelDef {
   ProMdlType type = PRO_MDL_PART;
   std::wstring name;  // empty: the file stem in upper case
@@ -68,6 +113,11 @@ struct ModelDef {
   std::optional<double> density;         // parts
   std::optional<MassPropertiesDef> massProperties;
   std::vector<SurfaceDef> surfaces;
+  std::vector<SheetDef> sheets;  // drawings; none: one sheet "A3" placed as the drawing
+  int currentSheet = 1;          // sheets count from 1
+  std::vector<TableDef> tables;
+
+  int SheetCount() const { return sheets.empty() ? 1 : static_cast<int>(sheets.size()); }
 };
 
 }  // namespace sim

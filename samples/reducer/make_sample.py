@@ -267,12 +267,20 @@ def assembly(drawing_no, name, remark, tree):
     }
 
 
-def drawing(drawing_no, title, solids):
-    return {
+IDENTITY = [[1.0, 0.0, 0.0, 0.0], [0.0, 1.0, 0.0, 0.0], [0.0, 0.0, 1.0, 0.0], [0.0, 0.0, 0.0, 1.0]]
+
+
+def drawing(drawing_no, title, solids, sheet_sizes=()):
+    """A drawing of the solids; without sheet sizes the host gives it one A3
+    sheet. Each sheet lies on the drawing's own coordinates."""
+    content = {
         "type": "drawing",
         "parameters": [text("图号", drawing_no), text("名称", title)],
         "solids": solids,
     }
+    if sheet_sizes:
+        content["sheets"] = [{"size": size, "transform": IDENTITY} for size in sheet_sizes]
+    return content
 
 
 # Shaft axes lie in the split plane z = 0, spaced by the centre distances of
@@ -461,7 +469,7 @@ def models():
         "oil_ring.prt.1": part("JSQ-01-002", "挡油环", "", [ring(56, 36, -4, 4)], "Q235"),
         "end_cap.prt.1": part("JSQ-02-101", "闷盖", "", [ring(110, 0, -10, 0), ring(62, 0, 0, 8)],
                               "HT150"),
-        "reducer.drw.1": drawing("JSQ-00-000", "二级圆柱齿轮减速器装配图", ["reducer.asm"]),
+        "reducer.drw.1": drawing("JSQ-00-000", "二级圆柱齿轮减速器装配图", ["reducer.asm"], ["A2"]),
         "output_shaft.drw.1": drawing("JSQ-03-001", "输出轴", ["output_shaft.prt"]),
         "output_shaft.drw.2": drawing("JSQ-03-001", "输出轴零件图", ["output_shaft.prt"]),
     }

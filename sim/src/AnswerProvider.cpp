@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "HostControl.h"
+#include "ToolkitCall.h"
 
 namespace sim {
 namespace {
@@ -25,6 +26,13 @@ std::optional<std::wstring> AskAnswerProvider(const std::string& callName, const
   }
   if (!current) return std::nullopt;
   return current(callName, label, defaultPath);
+}
+
+std::optional<std::wstring> UserAnswer(ToolkitCall& call, const std::string& callName,
+                                       const std::wstring& label, const std::wstring& defaultPath) {
+  if (!call.state().answers[callName].empty()) return TakeAnswer(callName);
+  call.Unlock();
+  return AskAnswerProvider(callName, label, defaultPath);
 }
 
 }  // namespace sim

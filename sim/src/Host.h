@@ -4,6 +4,7 @@
 #pragma once
 
 #include "CallLog.h"
+#include "DetailObjects.h"
 #include "FaultInjection.h"
 #include "Inspection.h"
 #include "MenuBar.h"
@@ -64,6 +65,7 @@ struct HostState {
   std::vector<Model*> pendingErase;  // erased when control returns to the host
   std::vector<CallRecord> callLog;
   std::vector<Selected> selectionBuffer;
+  DetailObjects details;  // table data and note data handed out
 
   // Lookups of handles the plug-in hands back: null when the session does
   // not know them, without dereferencing them.

@@ -3,6 +3,7 @@
 #include "CodePage.h"
 #include "Files.h"
 #include "Host.h"
+#include "ModelFiles.h"
 #include "Session.h"
 #include "SessionFile.h"
 #include "Text.h"
@@ -78,6 +79,16 @@ bool SetCurrentModel(ProMdl model) {
   if (model && !live) return false;
   ShowInBaseWindow(state, live);
   return true;
+}
+
+std::optional<std::filesystem::path> WriteModelCopy(ProMdl model, const std::filesystem::path& dir) {
+  auto hold = Hold();
+  const Model* live = TheHost().state.LiveModel(model);
+  if (!live) return std::nullopt;
+  std::filesystem::path file =
+      dir / platform::NativePath(VersionedFileName(*live, HighestVersionIn(dir, *live) + 1));
+  if (!WriteModelFile(file, SavedDocument(*live))) return std::nullopt;
+  return file;
 }
 
 void ReturnToHost() {

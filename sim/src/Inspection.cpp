@@ -58,7 +58,7 @@ std::map<std::wstring, std::wstring> ConfigOptions() {
 std::vector<SessionModel> SessionModels() {
   return Snapshot([](const HostState& state) {
     std::vector<SessionModel> models;
-    for (Model* model : state.models) models.push_back({Handle(model), model->fileName});
+    for (Model* model : state.models) models.push_back({Handle(model), model->fileName, model->modified});
     return models;
   });
 }

@@ -22,6 +22,7 @@ class Model {
   std::vector<Model*> componentModels;  // parallel to def.components; null: not found
   std::vector<Model*> solids;           // drawings: the solids that could be found
   bool modified = false;                // changed in session since loaded or saved
+  int lastItemId = 0;                   // drawings: the highest item id handed out in session
 
   // Ids of the components and the other features together, ascending: the
   // host's feature order.

@@ -1,6 +1,7 @@
 #include "ModelDocument.h"
 
 #include "CodePage.h"
+#include "DrawingDataJson.h"
 #include "ModelDataJson.h"
 
 #include <nlohmann/json.hpp>
@@ -45,6 +46,7 @@ ModelDef ParseDef(const json& doc) {
   }
   for (const json& entry : doc.value("solids", json::array())) def.solids.push_back(Wide(entry));
   ReadModelData(doc, def);
+  if (def.type == PRO_MDL_DRAWING) ReadDrawingData(doc, def);
   return def;
 }
 
@@ -89,6 +91,7 @@ std::string ModelDocument(const ModelDef& def) {
     for (const std::wstring& solid : def.solids) solids.push_back(platform::ToNarrow(solid));
   }
   WriteModelData(def, doc);
+  WriteDrawingData(def, doc);
   return doc.dump(2);
 }
 

@@ -10,25 +10,11 @@
 
 namespace {
 
-std::optional<std::wstring> TakeScripted(sim::HostState& state, const std::string& callName) {
-  auto& queue = state.answers[callName];
-  if (queue.empty()) return std::nullopt;
-  std::optional<std::wstring> answer = std::move(queue.front());
-  queue.pop_front();
-  return answer;
-}
-
 ProError Answer(sim::ToolkitCall& call, const std::string& callName, const wchar_t* label,
                 const wchar_t* defaultPath, wchar_t* selected) {
   if (!selected) return PRO_TK_BAD_INPUTS;
-  std::optional<std::wstring> answer;
-  if (!call.state().answers[callName].empty()) {
-    answer = TakeScripted(call.state(), callName);
-  } else {
-    // The user may take a while and the host's timers go on meanwhile.
-    call.Unlock();
-    answer = sim::AskAnswerProvider(callName, label ? label : L"", defaultPath ? defaultPath : L"");
-  }
+  std::optional<std::wstring> answer =
+      sim::UserAnswer(call, callName, label ? label : L"", defaultPath ? defaultPath : L"");
   if (!answer) return PRO_TK_USER_ABORT;
   return sim::CopyText(selected, PRO_PATH_SIZE, *answer) ? PRO_TK_NO_ERROR : PRO_TK_LINE_TOO_LONG;
 }

@@ -223,4 +223,23 @@ TEST_F(SimModelFile, UnitSystemsComeFromTheFileOrTheHostsStandardSet) {
             PRO_TK_E_NOT_FOUND);
 }
 
+TEST_F(SimModelFile, CopyGoesAboveTheVersionsInItsDirectoryAndLeavesTheModelAsItWas) {
+  dir.Write("work/lib/a.prt.2", ModelJson("part"));
+  dir.Write("work/out/a.prt.5", ModelJson("part"));
+  ProMdl a = Load(dir.Wide("work/lib/a.prt"));
+  wchar_t common[] = L"端盖";
+  ASSERT_EQ(ProMdlCommonnameSet(a, common), PRO_TK_NO_ERROR);
+  std::optional<fs::path> copy = sim::WriteModelCopy(a, dir.path() / "work/out");
+  ASSERT_TRUE(copy);
+  EXPECT_EQ(*copy, dir.path() / "work/out/a.prt.6");
+  EXPECT_EQ(FileJson("work/out/a.prt.6")["commonName"], "端盖");
+  EXPECT_EQ(Origin(a), dir.Wide("work/lib/a.prt.2"));
+  EXPECT_EQ(Version(a), 2);
+  ASSERT_EQ(sim::SessionModels().size(), 1u);
+  EXPECT_TRUE(sim::SessionModels()[0].modified);
+  EXPECT_FALSE(sim::WriteModelCopy(a, dir.path() / "work/missing"));
+  int local = 0;
+  EXPECT_FALSE(sim::WriteModelCopy(&local, dir.path() / "work/out"));
+}
+
 }  // namespace
