@@ -41,6 +41,13 @@ ProMdl BomTest::AssemblyOf(const std::wstring& file, const std::vector<sim::Comp
   return sim::AddModel(file, def);
 }
 
+ProMdl BomTest::Drawing(const std::wstring& file, const std::vector<std::wstring>& solids) {
+  sim::ModelDef def;
+  def.type = PRO_MDL_DRAWING;
+  def.solids = solids;
+  return sim::AddModel(file, def);
+}
+
 std::vector<std::string> BomTest::Show(const std::vector<BomMdl>& rows) {
   CTkModel model;
   std::vector<std::string> lines;

@@ -22,6 +22,7 @@ class BomTest : public testing::Test {
                   const TextParams& params = {});
   ProMdl AssemblyOf(const std::wstring& file, const std::vector<sim::ComponentDef>& components,
                     const TextParams& params = {});
+  ProMdl Drawing(const std::wstring& file, const std::vector<std::wstring>& solids);
   void MakeCurrent(ProMdl mdl) { host_.MakeCurrent(mdl); }
 
   static std::vector<std::string> Show(const std::vector<BomMdl>& rows);

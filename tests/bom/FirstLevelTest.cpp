@@ -42,20 +42,22 @@ TEST_F(BomFirstLevel, SubAssemblyIsARowOfItsOwnWithoutItsContents) {
   EXPECT_EQ(Show(rows), (Lines{"-1  TOP x1", "-1  SUB x1"}));
 }
 
-TEST_F(BomFirstLevel, TopModelIsTheAssemblyOrTheFirstSolidOfADrawing) {
+TEST_F(BomFirstLevel, TopModelIsTheAssemblyOrTheFirstSolidOfADrawingEvenAPart) {
   Part(L"bolt.prt");
   Assembly(L"first.asm", std::vector<std::wstring>{L"bolt.prt"});
   Assembly(L"second.asm", std::vector<std::wstring>{L"bolt.prt"});
-  sim::ModelDef drawing;
-  drawing.type = PRO_MDL_DRAWING;
-  drawing.solids = {L"first.asm", L"second.asm"};
-  MakeCurrent(sim::AddModel(L"plan.drw", drawing));
+  MakeCurrent(Drawing(L"plan.drw", {L"first.asm", L"second.asm"}));
   std::vector<BomMdl> rows;
   ASSERT_EQ(bom_.GetBomMdls(none_, rows), 0);
   EXPECT_EQ(Show(rows), (Lines{"-1  FIRST x1", "-1  BOLT x1"}));
   // The top row stands for the model itself: a path without ids.
   EXPECT_EQ(rows[0].cmps[0].path.table_num, 0);
   EXPECT_EQ(rows[0].cmps[0].path.comp_id_table[0], -1);
+  // A drawing of a part lists the part alone.
+  Part(L"shaft.prt");
+  MakeCurrent(Drawing(L"shaft.drw", {L"shaft.prt"}));
+  ASSERT_EQ(bom_.GetFirstLevelBomMdls(none_, rows), 0);
+  EXPECT_EQ(Show(rows), (Lines{"-1  SHAFT x1"}));
 }
 
 TEST_F(BomFirstLevel, PartOrNoCurrentModelGivesNoRows) {
@@ -66,17 +68,6 @@ TEST_F(BomFirstLevel, PartOrNoCurrentModelGivesNoRows) {
   MakeCurrent(nullptr);
   EXPECT_EQ(bom_.GetAllLeveBomMdls(none_, rows, 0), PRO_TK_BAD_CONTEXT) << "the host's status, not -4";
   EXPECT_TRUE(rows.empty());
-}
-
-TEST_F(BomFirstLevel, DrawingOfAPartListsThePartAlone) {
-  Part(L"shaft.prt");
-  sim::ModelDef drawing;
-  drawing.type = PRO_MDL_DRAWING;
-  drawing.solids = {L"shaft.prt"};
-  MakeCurrent(sim::AddModel(L"shaft.drw", drawing));
-  std::vector<BomMdl> rows;
-  ASSERT_EQ(bom_.GetFirstLevelBomMdls(none_, rows), 0);
-  EXPECT_EQ(Show(rows), (Lines{"-1  SHAFT x1"}));
 }
 
 TEST_F(BomFirstLevel, TrailRecordsTheRootStepsAndEachCountedComponent) {

@@ -1,5 +1,6 @@
 #include "LiteralBom.h"
 
+#include <algorithm>
 #include <cwctype>
 
 #include "ProAsmcomp.h"
@@ -11,6 +12,15 @@ ProAsmcomppath Shortened(ProAsmcomppath path) {
   --path.table_num;
   if (path.table_num >= 0) path.comp_id_table[path.table_num] = -1;
   return path;
+}
+
+BomMdl NewRow(const TkModelAsmCmp& cmp, int level) {
+  BomMdl row;
+  row.level = level;
+  row.quantity = 1;
+  row.mdl = cmp.mdl;
+  row.cmps.push_back(cmp);
+  return row;
 }
 
 }  // namespace
@@ -35,18 +45,13 @@ ProMdl LiteralBom::ModelAt(ProAsmcomppath path) const {
 }
 
 BomMdl LiteralBom::TopRow(ProMdl top, int level) const {
-  BomMdl row;
-  row.mdl = top;
-  row.quantity = 1;
-  row.level = level;
   TkModelAsmCmp cmp{};
   cmp.mdl = top;
   ProMdlToModelitem(top, &cmp.feature);
   cmp.path.owner = static_cast<ProSolid>(top);
   for (int& id : cmp.path.comp_id_table) id = -1;
   cmp.path.table_num = 0;
-  row.cmps.push_back(cmp);
-  return row;
+  return NewRow(cmp, level);
 }
 
 void LiteralBom::Filter(const BomCollectFilter& filter, std::vector<BomMdl>& rows) const {
@@ -55,75 +60,40 @@ void LiteralBom::Filter(const BomCollectFilter& filter, std::vector<BomMdl>& row
   }
 }
 
-int LiteralBom::GetFirstLevelBomMdls(const BomCollectFilter& filter, std::vector<BomMdl>& rows) const {
+int LiteralBom::Collect(const std::wstring& function, const BomCollectFilter& filter,
+                        std::vector<BomMdl>& rows, bool firstLevel) const {
   rows.clear();
   ProMdl top = nullptr;
-  if (int status = bom_.GetBomRootMdl(L"GetFirstLevelBomMdls", top)) return status;
+  if (int status = bom_.GetBomRootMdl(function, top)) return status;
   rows.push_back(TopRow(top, -1));
   std::vector<TkModelAsmCmp> cmps;
   model_.GetAllComponent2(top, cmps);
   int running = 1;
   for (const TkModelAsmCmp& cmp : cmps) {
-    if (cmp.path.table_num > 25) continue;
     int counted = 0;
     bom_.IsCmpCounted(cmp, counted);
-    if (!counted || cmp.path.table_num != 1 || !cmp.mdl) continue;
-    BomMdl* hit = nullptr;
-    for (BomMdl& row : rows) {
-      if (SameModel(row.mdl, cmp.mdl)) {
-        hit = &row;
-        break;
-      }
-    }
-    if (hit) {
+    if (cmp.path.table_num > 25 || !counted) continue;
+    if (firstLevel && (cmp.path.table_num != 1 || !cmp.mdl)) continue;
+    auto hit = std::find_if(rows.begin(), rows.end(),
+                            [&](const BomMdl& row) { return SameModel(row.mdl, cmp.mdl); });
+    if (hit != rows.end()) {
       ++hit->quantity;
       hit->cmps.push_back(cmp);
       continue;
     }
-    BomMdl row;
-    row.level = -1;
-    row.quantity = 1;
-    row.mdl = cmp.mdl;
-    row.cmps.push_back(cmp);
-    row.BomCmpIds[0] = running++;
-    rows.push_back(row);
+    rows.push_back(NewRow(cmp, -1));
+    if (firstLevel) rows.back().BomCmpIds[0] = running++;
   }
   Filter(filter, rows);
   return 0;
 }
 
+int LiteralBom::GetFirstLevelBomMdls(const BomCollectFilter& filter, std::vector<BomMdl>& rows) const {
+  return Collect(L"GetFirstLevelBomMdls", filter, rows, true);
+}
+
 int LiteralBom::GetBomMdls(const BomCollectFilter& filter, std::vector<BomMdl>& rows) const {
-  rows.clear();
-  ProMdl top = nullptr;
-  if (int status = bom_.GetBomRootMdl(L"GetBomMdls", top)) return status;
-  rows.push_back(TopRow(top, -1));
-  std::vector<TkModelAsmCmp> cmps;
-  model_.GetAllComponent2(top, cmps);
-  for (const TkModelAsmCmp& cmp : cmps) {
-    int counted = 0;
-    bom_.IsCmpCounted(cmp, counted);
-    if (cmp.path.table_num > 25 || !counted) continue;
-    BomMdl* hit = nullptr;
-    for (BomMdl& row : rows) {
-      if (SameModel(row.mdl, cmp.mdl)) {
-        hit = &row;
-        break;
-      }
-    }
-    if (hit) {
-      ++hit->quantity;
-      hit->cmps.push_back(cmp);
-      continue;
-    }
-    BomMdl row;
-    row.level = -1;
-    row.quantity = 1;
-    row.mdl = cmp.mdl;
-    row.cmps.push_back(cmp);
-    rows.push_back(row);
-  }
-  Filter(filter, rows);
-  return 0;
+  return Collect(L"GetBomMdls", filter, rows, false);
 }
 
 int LiteralBom::GetAllLeveBomMdls(const BomCollectFilter& filter, std::vector<BomMdl>& rows,
@@ -139,24 +109,14 @@ int LiteralBom::GetAllLeveBomMdls(const BomCollectFilter& filter, std::vector<Bo
     bom_.IsCmpCounted(r, counted);
     if (r.path.table_num > 25 || !counted) continue;
     ProAsmcomppath p = Shortened(r.path);
-
-    BomMdl* target = nullptr;
-    for (BomMdl& row : rows) {
-      if (!SameModel(row.mdl, r.mdl)) continue;
+    auto target = std::find_if(rows.begin(), rows.end(), [&](const BomMdl& row) {
+      if (!SameModel(row.mdl, r.mdl)) return false;
       ProAsmcomppath q = Shortened(row.cmps[0].path);
-      bool isTarget = false;
-      if (sameAsmCmps) {
-        int same = 0;
-        model_.IsSameCmpPath(p, q, same);
-        isTarget = same == 1;
-      } else {
-        isTarget = UpperName(ModelAt(p)) == UpperName(ModelAt(q)) && p.table_num == q.table_num;
-      }
-      if (isTarget) {
-        target = &row;
-        break;
-      }
-    }
+      if (!sameAsmCmps) return UpperName(ModelAt(p)) == UpperName(ModelAt(q)) && p.table_num == q.table_num;
+      int same = 0;
+      model_.IsSameCmpPath(p, q, same);
+      return same == 1;
+    });
 
     int a = 0;
     for (int k = r.path.table_num - 1; k >= 0; --k) {
@@ -173,16 +133,12 @@ int LiteralBom::GetAllLeveBomMdls(const BomCollectFilter& filter, std::vector<Bo
     }
     if (sameAsmCmps && a >= 2) continue;
 
-    if (target) {
+    if (target != rows.end()) {
       ++target->quantity;
       target->cmps.push_back(r);
       continue;
     }
-    BomMdl row;
-    row.level = r.path.table_num;
-    row.quantity = 1;
-    row.mdl = r.mdl;
-    row.cmps.push_back(r);
+    BomMdl row = NewRow(r, r.path.table_num);
     bom_.NewBomCmpIds(row, rows, row.BomCmpIds);
     rows.push_back(row);
   }
@@ -208,8 +164,7 @@ int LiteralBom::SortLevelBomMdls(const std::vector<BomMdl>& rows, const std::wst
                                  std::vector<BomMdl>& sorted) const {
   sorted.clear();
   std::vector<BomMdl> w;
-  BomMdl kept;
-  bool haveKept = false;
+  BomMdl kept;  // without a model when no top row is left: renumbering drops it
   for (int level = 0; level <= 24; ++level) {
     std::vector<BomMdl> parts, others;
     for (const BomMdl& row : rows) {
@@ -225,7 +180,6 @@ int LiteralBom::SortLevelBomMdls(const std::vector<BomMdl>& rows, const std::wst
     if (level == 0) {
       if (sortedOthers.size() != 1) return PRO_TK_E_NOT_FOUND;
       kept = sortedOthers[0];
-      haveKept = true;
     } else if (level == 1) {
       w.insert(w.begin(), sortedOthers.begin(), sortedOthers.end());
       w.insert(w.begin(), sortedParts.begin(), sortedParts.end());
@@ -243,9 +197,7 @@ int LiteralBom::SortLevelBomMdls(const std::vector<BomMdl>& rows, const std::wst
       }
     }
   }
-  BomMdl first;
-  if (haveKept) first = kept;
-  w.insert(w.begin(), first);
+  w.insert(w.begin(), kept);
   for (const BomMdl& row : w) {
     BomMdl copy = row;
     if (bom_.RenumberBomCmpIds(copy, sorted, copy.BomCmpIds) == 0) sorted.push_back(copy);

@@ -22,6 +22,9 @@ class LiteralBom {
   std::wstring UpperName(ProMdl mdl) const;
   ProMdl ModelAt(ProAsmcomppath path) const;
   BomMdl TopRow(ProMdl top, int level) const;
+  // The single-level (`firstLevel`) or summary list.
+  int Collect(const std::wstring& function, const BomCollectFilter& filter, std::vector<BomMdl>& rows,
+              bool firstLevel) const;
   void Filter(const BomCollectFilter& filter, std::vector<BomMdl>& rows) const;
   void SortByParam(const std::vector<BomMdl>& rows, const std::wstring& sortParam,
                    std::vector<BomMdl>& sorted, bool ascending) const;

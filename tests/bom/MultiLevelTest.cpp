@@ -13,33 +13,20 @@ class BomMultiLevel : public BomTest {
   }
 };
 
-TEST_F(BomMultiLevel, PartUnderTheTopAndInsideASubAssemblyStandsTwice) {
+TEST_F(BomMultiLevel, PartUnderTheTopAndUnderEachOfTwoSubAssembliesHasARowUnderEach) {
   Part(L"p.prt");
-  Assembly(L"s.asm", std::vector<std::wstring>{L"p.prt"});
-  MakeCurrent(Assembly(L"top.asm", {L"p.prt", L"s.asm"}));
-  EXPECT_EQ(Rows(0), (Lines{"0 0 TOP x1", "1 1 P x1", "1 2 S x1", "2 2.1 P x1"}));
+  Assembly(L"s1.asm", std::vector<std::wstring>{L"p.prt"});
+  Assembly(L"s2.asm", std::vector<std::wstring>{L"p.prt"});
+  MakeCurrent(Assembly(L"top.asm", {L"p.prt", L"s1.asm", L"s2.asm"}));
+  EXPECT_EQ(Rows(0), (Lines{"0 0 TOP x1", "1 1 P x1", "1 2 S1 x1", "2 2.1 P x1", "1 3 S2 x1", "2 3.1 P x1"}));
 }
 
-TEST_F(BomMultiLevel, SubAssemblyTwiceSumsItsContentsWithoutSameAsmCmps) {
+TEST_F(BomMultiLevel, SubAssemblyTwiceSumsItsContentsOrWithSameAsmCmpsShowsThemOnce) {
   Part(L"b.prt");
   Assembly(L"s.asm", {L"b.prt", L"b.prt", L"b.prt"});
   MakeCurrent(Assembly(L"top.asm", {L"s.asm", L"s.asm"}));
   EXPECT_EQ(Rows(0), (Lines{"0 0 TOP x1", "1 1 S x2", "2 1.1 B x6"}));
-}
-
-TEST_F(BomMultiLevel, SubAssemblyTwiceShowsItsContentsOnceWithSameAsmCmps) {
-  Part(L"b.prt");
-  Assembly(L"s.asm", {L"b.prt", L"b.prt", L"b.prt"});
-  MakeCurrent(Assembly(L"top.asm", {L"s.asm", L"s.asm"}));
   EXPECT_EQ(Rows(1), (Lines{"0 0 TOP x1", "1 1 S x2", "2 1.1 B x3"}));
-}
-
-TEST_F(BomMultiLevel, TwoDifferentSubAssembliesEachHaveTheirOwnRowOfAPart) {
-  Part(L"p.prt");
-  Assembly(L"s1.asm", std::vector<std::wstring>{L"p.prt"});
-  Assembly(L"s2.asm", std::vector<std::wstring>{L"p.prt"});
-  MakeCurrent(Assembly(L"top.asm", {L"s1.asm", L"s2.asm"}));
-  EXPECT_EQ(Rows(0), (Lines{"0 0 TOP x1", "1 1 S1 x1", "2 1.1 P x1", "1 2 S2 x1", "2 2.1 P x1"}));
 }
 
 TEST_F(BomMultiLevel, FilteredOutSubAssemblyLeavesItsChildrenWithTheirNumbers) {

@@ -51,9 +51,6 @@ TEST_F(BomSort, ChildrenOfAFilteredOutSubAssemblyHaveNoParentAndGo) {
 
 TEST_F(BomSort, TopModelAPartIsRefused) {
   Part(L"shaft.prt");
-  sim::ModelDef drawing;
-  drawing.type = PRO_MDL_DRAWING;
-  drawing.solids = {L"shaft.prt"};
-  MakeCurrent(sim::AddModel(L"shaft.drw", drawing));
+  MakeCurrent(Drawing(L"shaft.drw", {L"shaft.prt"}));
   EXPECT_TRUE(Sorted(L"KEY", PRO_TK_E_NOT_FOUND).empty());
 }

@@ -1,7 +1,8 @@
 // The settings of the bill of materials: Opt.cfg, Tbl.cfg and Excel.cfg.
 #include <gtest/gtest.h>
 
-#include "ApplTextPath.h"
+#include <tuple>
+
 #include "CfgOption.h"
 #include "ConfigTestSupport.h"
 
@@ -10,19 +11,14 @@ namespace {
 class BomOptionsTest : public TextRootTest {
  protected:
   void GivenExcel(const std::string& section, const std::string& lines) {
-    WriteFile("config/Excel.cfg", "[" + section + "]\n" + lines + "\n");
+    dir.Write("config/Excel.cfg", "[" + section + "]\n" + lines + "\n");
   }
-  int Column(const std::string& begainCol) {
-    GivenExcel("ExcelTbl", "BegainCol=" + begainCol);
-    int row = 0, col = 0, rows = 0;
-    CCfgOption().GetTblLayout(row, col, rows);
-    return col;
-  }
-  int RowsOfPage(const std::string& lines) {
+  // Begin row, begin column and rows of a page.
+  std::tuple<int, int, int> Layout(const std::string& lines) {
     GivenExcel("ExcelTbl", lines);
     int row = 0, col = 0, rows = 0;
     CCfgOption().GetTblLayout(row, col, rows);
-    return rows;
+    return {row, col, rows};
   }
   ColInfo Parsed(const std::wstring& key, const std::wstring& value, int expectedResult = 1) {
     ColInfo colInfo;
@@ -36,20 +32,20 @@ class BomOptionsTest : public TextRootTest {
 
 TEST_F(BomOptionsTest, LevelTypeOutsideZeroToTwoReadsAsZero) {
   for (auto [stored, read] : {std::pair{"2", 2}, {"3", 0}, {"-1", 0}, {"x", 0}}) {
-    WriteFile("config/Opt.cfg", std::string("[BOM]\nLevelType=") + stored + "\n");
+    dir.Write("config/Opt.cfg", std::string("[BOM]\nLevelType=") + stored + "\n");
     EXPECT_EQ(CCfgOption().GetLevelType(), read) << stored;
   }
 }
 
 TEST_F(BomOptionsTest, BomChoicesAreWrittenWithTheirComments) {
-  WriteFile("config/Opt.cfg", "[Menu]\nMenubarId=\n[BOM]\nLevelType=0\n");
+  dir.Write("config/Opt.cfg", "[Menu]\nMenubarId=\n[BOM]\nLevelType=0\n");
   CCfgOption option;
   option.SetLevelType(2);
   option.SetExportExcel(1);
   option.SetExportText(1);
   option.SetExportCurMdl(0);
   EXPECT_EQ(
-      ReadFile("config/Opt.cfg"),
+      dir.Read("config/Opt.cfg"),
       "[Menu]\nMenubarId=\n[BOM]\nLevelType=2#层级, 0表示单层清单, 1表示多层清单,2表示汇总清单\n"
       "ExportExcel=1#输出清单到Excel\nExportText=1#输出清单到Text\nExportCurMdl=0#输出清单到当前模型\n");
   EXPECT_EQ(option.GetLevelType(), 2);
@@ -83,7 +79,7 @@ TEST_F(BomOptionsTest, ColumnLineParsesByPositionAndMissingTailFieldsStayCleared
 }
 
 TEST_F(BomOptionsTest, ColumnsReadInFileOrderWithUnparsableLinesKept) {
-  WriteFile("config/Tbl.cfg",
+  dir.Write("config/Tbl.cfg",
             "[Col]\n1=序号;50;0;;;;2;0;1\n2=\n3=外形□尺寸;100;0;;;;6;0;1\n[Other]\n9=x;1;0;;;;0;0;1\n");
   std::vector<ColInfo> cols{ColInfo{}};
   EXPECT_EQ(CCfgOption().GetColInfos(cols), 1);
@@ -91,13 +87,13 @@ TEST_F(BomOptionsTest, ColumnsReadInFileOrderWithUnparsableLinesKept) {
   EXPECT_EQ(cols[1].id, 2);
   EXPECT_EQ(cols[1].show, 0);
   EXPECT_EQ(cols[2].name, L"外形 尺寸");
-  std::remove((dir / "config/Tbl.cfg").c_str());
+  std::remove((dir.path() / "config/Tbl.cfg").c_str());
   EXPECT_EQ(CCfgOption().GetColInfos(cols), 1);
   EXPECT_TRUE(cols.empty());
 }
 
 TEST_F(BomOptionsTest, ColumnWrittenAndReadAgainKeepsItsFieldsButASemicolonShiftsThem) {
-  WriteFile("config/Tbl.cfg", "; the BOM columns\n[Col]\n1=序号;50;0;;;;2;0;1\n2=old\n");
+  dir.Write("config/Tbl.cfg", "; the BOM columns\n[Col]\n1=序号;50;0;;;;2;0;1\n2=old\n");
   CCfgOption option;
   ColInfo written{2, L"材 料", 90, 2, L"45,Q235", L"-", L"材料", PARAMTYPE_MDLPARAM, 0, 1};
   EXPECT_EQ(option.SetColInfo(written), 1);
@@ -110,7 +106,7 @@ TEST_F(BomOptionsTest, ColumnWrittenAndReadAgainKeepsItsFieldsButASemicolonShift
   EXPECT_EQ(cols[1].paramName, L"材料");
   EXPECT_EQ(cols[1].editType, 2);
   EXPECT_EQ(cols[1].show, 1);
-  EXPECT_EQ(ReadFile("config/Tbl.cfg"),
+  EXPECT_EQ(dir.Read("config/Tbl.cfg"),
             "; the BOM columns\n[Col]\n1=序号;50;0;;;;2;0;1\n2=材□料;90;2;45,Q235;-;材料;0;0;1\n");
 
   written.comboItems = L"a;b";
@@ -120,53 +116,35 @@ TEST_F(BomOptionsTest, ColumnWrittenAndReadAgainKeepsItsFieldsButASemicolonShift
   EXPECT_EQ(cols[1].defaultValue, L"b") << "nothing escapes the separator";
 }
 
-TEST_F(BomOptionsTest, TenColumnKindsInOrder) {
-  std::vector<ParamTypeName> names;
-  EXPECT_EQ(CCfgOption().GetParamTypeNames(names), 1);
-  ASSERT_EQ(names.size(), 10u);
-  EXPECT_EQ(names[0].name, L"普通模型参数");
-  EXPECT_EQ(names[2].name, L"序号");
-  EXPECT_EQ(names[9].paramType, PARAMTYPE_TOTALMASS);
-  EXPECT_EQ(names[9].name, L"零件总重");
-}
-
-TEST_F(BomOptionsTest, ColumnLettersAreOneLetterInEitherCase) {
+TEST_F(BomOptionsTest, ColumnLettersAreOneLetterInEitherCaseAndBegainColFallsBackToOne) {
   CCfgOption option;
   EXPECT_EQ(option.ColLetterToIndex(L"A"), 1);
   EXPECT_EQ(option.ColLetterToIndex(L"z"), 26);
   EXPECT_EQ(option.ColLetterToIndex(L"AA"), -1);
   EXPECT_EQ(option.ColLetterToIndex(L"5"), -1);
   EXPECT_EQ(option.ColLetterToIndex(L""), -1);
-}
-
-TEST_F(BomOptionsTest, BegainColTakesOneLetterElseOne) {
-  EXPECT_EQ(Column("AA"), 1);
-  EXPECT_EQ(Column("c"), 3);
-  EXPECT_EQ(Column("5"), 1);
+  EXPECT_EQ(std::get<1>(Layout("BegainCol=c")), 3);
+  EXPECT_EQ(std::get<1>(Layout("BegainCol=AA")), 1);
+  EXPECT_EQ(std::get<1>(Layout("BegainCol=5")), 1);
 }
 
 TEST_F(BomOptionsTest, RowsOfAPageAreClampedAndMissingReadsAsOne) {
-  EXPECT_EQ(RowsOfPage("RowNumOfPage=0"), 1);
-  EXPECT_EQ(RowsOfPage("BegainRow=4"), 1);
-  EXPECT_EQ(RowsOfPage("RowNumOfPage=500"), 100);
-  EXPECT_EQ(RowsOfPage("RowNumOfPage=35"), 35);
-  GivenExcel("ExcelTbl", "BegainRow=-3");
-  int row = 0, col = 0, rows = 0;
-  CCfgOption().GetTblLayout(row, col, rows);
-  EXPECT_EQ(row, 1);
+  EXPECT_EQ(Layout("RowNumOfPage=0"), std::tuple(1, 1, 1));
+  EXPECT_EQ(Layout("BegainRow=4"), std::tuple(4, 1, 1));
+  EXPECT_EQ(Layout("RowNumOfPage=500"), std::tuple(1, 1, 100));
+  EXPECT_EQ(Layout("RowNumOfPage=35"), std::tuple(1, 1, 35));
+  EXPECT_EQ(Layout("BegainRow=-3"), std::tuple(1, 1, 1));
 }
 
 TEST_F(BomOptionsTest, DataCellIsALetterAndARow) {
-  int row = 0, col = 0;
-  GivenExcel("ExcelBase", "Data=J2");
-  CCfgOption().GetDataCell(row, col);
-  EXPECT_EQ(std::pair(row, col), std::pair(2, 10));
-  GivenExcel("ExcelBase", "Data=AB12");
-  CCfgOption().GetDataCell(row, col);
-  EXPECT_EQ(std::pair(row, col), std::pair(0, -1)) << "a second letter is no row";
-  GivenExcel("ExcelBase", "PageName=x");
-  CCfgOption().GetDataCell(row, col);
-  EXPECT_EQ(std::pair(row, col), std::pair(0, -1));
+  // A second letter is no row; no Data key reads the same.
+  for (auto [lines, cell] :
+       {std::pair{"Data=J2", std::pair(2, 10)}, {"Data=AB12", {0, -1}}, {"PageName=x", {0, -1}}}) {
+    GivenExcel("ExcelBase", lines);
+    int row = 0, col = 0;
+    CCfgOption().GetDataCell(row, col);
+    EXPECT_EQ(std::pair(row, col), cell) << lines;
+  }
 }
 
 TEST_F(BomOptionsTest, OtherCellsSkipItemsWithoutAComma) {

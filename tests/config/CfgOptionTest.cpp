@@ -4,37 +4,29 @@
 #include <utility>
 #include <vector>
 
-#include "ApplTextPath.h"
 #include "CfgOption.h"
 #include "ConfigTestSupport.h"
 #include "IniEx.h"
 
 namespace {
 
-// The test's directory is the plug-in's text root.
 class CfgOptionTest : public TextRootTest {
  protected:
   void GivenSaveAuto(const std::string& dlgSetLines) {
-    WriteFile("config/SaveAuto.cfg", "[DlgSet]\n" + dlgSetLines + "\n[WrkDir]\nIsSaveWrkDir=1\n");
+    dir.Write("config/SaveAuto.cfg", "[DlgSet]\n" + dlgSetLines + "\n[WrkDir]\nIsSaveWrkDir=1\n");
   }
 };
 
+// Every other file's name is read from disk by the tests of its settings.
 TEST(CfgOptionPaths, FilesLieInConfigUnderTheTextRootAndGetAppDirOnesDoubleTheBackslash) {
   protkrt::SetApplTextPath(L"C:\\plugin");
   CCfgOption option;
   using PathFunction = std::wstring (CCfgOption::*)() const;
   const std::vector<std::pair<PathFunction, std::wstring>> expected = {
       {&CCfgOption::GetOptCfgPath, L"C:\\plugin\\config\\Opt.cfg"},
-      {&CCfgOption::GetTblCfgPath, L"C:\\plugin\\config\\Tbl.cfg"},
-      {&CCfgOption::GetRenameTblCfgPath, L"C:\\plugin\\config\\RenameTbl.cfg"},
-      {&CCfgOption::GetExcelCfgPath, L"C:\\plugin\\config\\Excel.cfg"},
       {&CCfgOption::GetBomFilterCfgPath, L"C:\\plugin\\\\config\\BomFilter.cfg"},
       {&CCfgOption::GetMdlExportCfgPath, L"C:\\plugin\\\\config\\MdlExport.cfg"},
       {&CCfgOption::GetMdlExportColCfgPath, L"C:\\plugin\\\\config\\MdlExportCol.cfg"},
-      {&CCfgOption::GetParamsCfgPath, L"C:\\plugin\\config\\Params.cfg"},
-      {&CCfgOption::GetMatColCfgPath, L"C:\\plugin\\config\\MatCol.cfg"},
-      {&CCfgOption::GetSaveAutoCfgPath, L"C:\\plugin\\config\\SaveAuto.cfg"},
-      {&CCfgOption::GetSplCfgPath, L"C:\\plugin\\config\\SPL.cfg"},
   };
   for (const auto& [function, path] : expected) EXPECT_EQ((option.*function)(), path);
   protkrt::SetApplTextPath(L"");
@@ -42,21 +34,17 @@ TEST(CfgOptionPaths, FilesLieInConfigUnderTheTextRootAndGetAppDirOnesDoubleTheBa
 }
 
 TEST_F(CfgOptionTest, DoubledBackslashPathReachesTheFile) {
-  WriteFile("config/BomFilter.cfg", "[Filter]\nName=a\n");
+  dir.Write("config/BomFilter.cfg", "[Filter]\nName=a\n");
   std::wstring value;
   CIniEx().GetValue(CCfgOption().GetBomFilterCfgPath(), L"Filter", L"Name", value);
   EXPECT_EQ(value, L"a");
 }
 
 TEST_F(CfgOptionTest, SaveAutoTimeIsTenOnlyWhenEmpty) {
-  GivenSaveAuto("Time=0");
-  EXPECT_EQ(CCfgOption().GetSaveAutoTime(), 0);
-  GivenSaveAuto("Time=-5");
-  EXPECT_EQ(CCfgOption().GetSaveAutoTime(), -5);
-  GivenSaveAuto("Time=");
-  EXPECT_EQ(CCfgOption().GetSaveAutoTime(), 10);
-  GivenSaveAuto("SaveAuto=1");
-  EXPECT_EQ(CCfgOption().GetSaveAutoTime(), 10);
+  for (auto [lines, time] : {std::pair{"Time=0", 0}, {"Time=-5", -5}, {"Time=", 10}, {"SaveAuto=1", 10}}) {
+    GivenSaveAuto(lines);
+    EXPECT_EQ(CCfgOption().GetSaveAutoTime(), time) << lines;
+  }
 }
 
 TEST_F(CfgOptionTest, SaveAutoIsOnOnlyForOneWhileDelOldVerTakesAnyNumber) {
@@ -81,7 +69,7 @@ TEST_F(CfgOptionTest, SettersWriteWhatGettersRead) {
   EXPECT_EQ(option.GetSaveAutoTime(), 7);
   EXPECT_EQ(option.GetIsSaveWrkDir(), 1);
   EXPECT_EQ(option.GetWrkDir(), L"/work/my dir");
-  EXPECT_EQ(ReadFile("config/SaveAuto.cfg"),
+  EXPECT_EQ(dir.Read("config/SaveAuto.cfg"),
             "[DlgSet]\nSaveAuto=1\nDelOldVer=3\nTime=7\n[WrkDir]\nIsSaveWrkDir=1\nDir=/work/my\xE2\x96\xA1"
             "dir\n");
 }
@@ -90,7 +78,7 @@ TEST_F(CfgOptionTest, MissingFileGivesDefaultsAndSettersLeaveItMissing) {
   CCfgOption option;
   option.SetSaveAuto(1);
   option.SetWrkDir(L"/w");
-  EXPECT_FALSE(Exists("config"));
+  EXPECT_FALSE(std::filesystem::exists(dir.path() / "config"));
   EXPECT_EQ(option.GetSaveAuto(), 0);
   EXPECT_EQ(option.GetSaveAutoTime(), 10);
   EXPECT_EQ(option.GetIsSaveWrkDir(), 0);
@@ -99,9 +87,9 @@ TEST_F(CfgOptionTest, MissingFileGivesDefaultsAndSettersLeaveItMissing) {
 }
 
 TEST_F(CfgOptionTest, MenuPlacementIsReadFromTheOptPathTakenAtConstruction) {
-  WriteFile("config/Opt.cfg", "[Menu]\nMenubarId=Tools\nFrontMenuBtn=\n");
+  dir.Write("config/Opt.cfg", "[Menu]\nMenubarId=Tools\nFrontMenuBtn=\n");
   CCfgOption option;
-  protkrt::SetApplTextPath(PathOf("elsewhere"));
+  protkrt::SetApplTextPath(dir.Wide("elsewhere"));
   EXPECT_EQ(option.GetMenubarId(), L"Tools");
   EXPECT_EQ(option.GetFrontMenuBtn(), L"");
 }

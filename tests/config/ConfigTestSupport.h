@@ -4,42 +4,35 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <map>
-#include <memory>
 #include <optional>
 #include <string>
 
+#include "ApplTextPath.h"
 #include "IniFileIo.h"
 #include "TestDir.h"
 
 class MemoryFiles : public config::IniFileIo {
  public:
-  std::optional<std::string> ReadAll(const std::wstring& path) override;
-  bool WriteAll(const std::wstring& path, const std::string& bytes) override;
+  std::optional<std::string> ReadAll(const std::wstring& path) override {
+    auto found = files.find(path);
+    return found == files.end() ? std::nullopt : std::optional(found->second);
+  }
+  bool WriteAll(const std::wstring& path, const std::string& bytes) override {
+    ++writeCount;
+    files[path] = bytes;
+    return true;
+  }
 
   std::map<std::wstring, std::string> files;
   int writeCount = 0;
 };
 
-class TempDirTest : public ::testing::Test {
- protected:
-  void SetUp() override;
-  void TearDown() override;
-
-  // `name` inside the test's directory, as the plug-in would name it.
-  std::wstring PathOf(const std::string& name) const;
-  void WriteFile(const std::string& name, const std::string& bytes) const;
-  std::string ReadFile(const std::string& name) const;
-  bool Exists(const std::string& name) const;
-
-  std::filesystem::path dir;
-  std::unique_ptr<TestDir> scratch;
-};
-
 // The test's directory is the plug-in's text root.
-class TextRootTest : public TempDirTest {
+class TextRootTest : public ::testing::Test {
  protected:
-  void SetUp() override;
-  void TearDown() override;
+  TextRootTest() { protkrt::SetApplTextPath(dir.Wide()); }
+  ~TextRootTest() override { protkrt::SetApplTextPath(L""); }
+
+  TestDir dir;
 };

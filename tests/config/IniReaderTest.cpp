@@ -75,23 +75,15 @@ TEST_F(IniReaderTest, SectionNamesAreCutAtTheListLimit) {
   EXPECT_EQ(names[99], Wide(Numbered('s', 99) + std::string(14, 'n')));
 }
 
-TEST_F(IniReaderTest, UpdateRewritesOnlyTheKeyLine) {
+TEST_F(IniReaderTest, WriteRewritesOnlyTheKeyLineOrAddsBehindTheSectionsLastKeyOrAppendsTheSection) {
   Given("; head\n[A]\nx = 1 \nKey=old\n\n[B]\nkey=b\n");
   EXPECT_EQ(reader.SetKey(L"new", L"KEY", L"a"), 1);
   EXPECT_EQ(Bytes(), "; head\n[A]\nx = 1 \nKey=new\n\n[B]\nkey=b\n");
-}
-
-TEST_F(IniReaderTest, NewKeyGoesBehindTheLastKeyLineOfItsSection) {
   Given("[A]\nx=1\n; about B\n\n[B]\n\n[C]\ny=2");
   reader.SetKey(L"2", L"z", L"A");
   reader.SetKey(L"1", L"w", L"b");
-  EXPECT_EQ(Bytes(), "[A]\nx=1\nz=2\n; about B\n\n[B]\nw=1\n\n[C]\ny=2");
-}
-
-TEST_F(IniReaderTest, WriteToAMissingSectionAppendsIt) {
-  Given("[A]\nx=1");
-  reader.SetKey(L"v", L"k", L"B");
-  EXPECT_EQ(Bytes(), "[A]\nx=1\n[B]\nk=v\n");
+  reader.SetKey(L"v", L"k", L"D");
+  EXPECT_EQ(Bytes(), "[A]\nx=1\nz=2\n; about B\n\n[B]\nw=1\n\n[C]\ny=2\n[D]\nk=v\n");
 }
 
 TEST_F(IniReaderTest, ByteOrderMarkAndCrLfAreReadAndKept) {
@@ -102,17 +94,16 @@ TEST_F(IniReaderTest, ByteOrderMarkAndCrLfAreReadAndKept) {
   EXPECT_EQ(reader.GetKeyValue(L"y", L"A"), L"层级");
 }
 
-class IniReaderDiskTest : public TempDirTest {};
-
-TEST_F(IniReaderDiskTest, WriteCreatesAMissingFileButNotAMissingDirectory) {
+TEST(IniReaderDisk, WriteCreatesAMissingFileButNotAMissingDirectory) {
+  TestDir dir;
   CIniReader reader;
-  reader.SetIniFile(PathOf("new.cfg"));
+  reader.SetIniFile(dir.Wide("new.cfg"));
   EXPECT_EQ(reader.SetKey(L"1", L"k", L"A"), 1);
-  EXPECT_EQ(ReadFile("new.cfg"), "[A]\nk=1\n");
-  reader.SetIniFile(PathOf("nowhere\\a.cfg"));
+  EXPECT_EQ(dir.Read("new.cfg"), "[A]\nk=1\n");
+  reader.SetIniFile(dir.Wide("nowhere\\a.cfg"));
   EXPECT_EQ(reader.SetKey(L"1", L"k", L"A"), 0);
   EXPECT_EQ(reader.GetLastResult(), 0);
-  EXPECT_FALSE(Exists("nowhere"));
+  EXPECT_FALSE(std::filesystem::exists(dir.path() / "nowhere"));
 }
 
 }  // namespace

@@ -2,7 +2,6 @@
 // MdlExport.cfg and SPL.cfg.
 #include <gtest/gtest.h>
 
-#include "ApplTextPath.h"
 #include "CfgOption.h"
 #include "ConfigTestSupport.h"
 
@@ -20,7 +19,7 @@ class ToolOptionsTest : public TextRootTest {
 }  // namespace
 
 TEST_F(ToolOptionsTest, FilterSchemesAreReadByNumberUpToTheSectionCount) {
-  WriteFile("config/BomFilter.cfg", Scheme(1, "1") + Scheme(3, "2"));
+  dir.Write("config/BomFilter.cfg", Scheme(1, "1") + Scheme(3, "2"));
   std::vector<BomFilter> filters{BomFilter{}};
   CCfgOption().GetBomFilters(filters);
   ASSERT_EQ(filters.size(), 1u) << "two sections: numbers 1 and 2, and 2 is missing";
@@ -30,7 +29,7 @@ TEST_F(ToolOptionsTest, FilterSchemesAreReadByNumberUpToTheSectionCount) {
   EXPECT_EQ(filters[0].FilterKey, L"GB,GP");
   EXPECT_EQ(filters[0].IsShow, 1);
 
-  WriteFile("config/BomFilter.cfg", Scheme(2, "2") + Scheme(1, "0"));
+  dir.Write("config/BomFilter.cfg", Scheme(2, "2") + Scheme(1, "0"));
   CCfgOption().GetBomFilters(filters);
   ASSERT_EQ(filters.size(), 2u);
   EXPECT_EQ(filters[0].Section, L"Sec1") << "by number, not by file order";
@@ -38,7 +37,7 @@ TEST_F(ToolOptionsTest, FilterSchemesAreReadByNumberUpToTheSectionCount) {
 }
 
 TEST_F(ToolOptionsTest, FilterSchemeIsWrittenIntoItsOwnSectionOnly) {
-  WriteFile("config/BomFilter.cfg", Scheme(1, "0") + "\n" + Scheme(2, "0"));
+  dir.Write("config/BomFilter.cfg", Scheme(1, "0") + "\n" + Scheme(2, "0"));
   CCfgOption option;
   option.SetBomFilter({L"Sec2", L"外购 件", L"备注", L"外购", 1});
   option.SetBomFilter({L"Sec9", L"lost", L"", L"", 1});
@@ -48,17 +47,16 @@ TEST_F(ToolOptionsTest, FilterSchemeIsWrittenIntoItsOwnSectionOnly) {
   EXPECT_EQ(filters[0].ProjectName, L"方案1");
   EXPECT_EQ(filters[1].ProjectName, L"外购 件");
   EXPECT_EQ(filters[1].IsShow, 1);
-  EXPECT_EQ(ReadFile("config/BomFilter.cfg").find("Sec9"), std::string::npos);
-  EXPECT_EQ(option.GetModelNameKey(), L"模型名称");
+  EXPECT_EQ(dir.Read("config/BomFilter.cfg").find("Sec9"), std::string::npos);
 }
 
 TEST_F(ToolOptionsTest, AMissingShowKeepsARenameColumnAndDropsTheOthers) {
   std::string columns =
       "[A]\nColName=图号\nColWidth=130\nParamName=DRAWNO\nParamOwner=1\n"
       "[B]\nColName=名称\nShow=0\n[C]\nColName=材料\nColWidth=90\nShow=2\n";
-  WriteFile("config/RenameTbl.cfg", columns);
-  WriteFile("config/MatCol.cfg", columns);
-  WriteFile("config/MdlExportCol.cfg", columns);
+  dir.Write("config/RenameTbl.cfg", columns);
+  dir.Write("config/MatCol.cfg", columns);
+  dir.Write("config/MdlExportCol.cfg", columns);
   CCfgOption option;
   std::vector<MdlRenameCol> rename;
   option.GetRenameCols(rename);
@@ -81,29 +79,29 @@ TEST_F(ToolOptionsTest, AMissingShowKeepsARenameColumnAndDropsTheOthers) {
 }
 
 TEST_F(ToolOptionsTest, ParamsSettingsRoundTripAndDefaultToZero) {
-  WriteFile("config/Params.cfg",
+  dir.Write("config/Params.cfg",
             "[ParamsSetDlg]\nRadioParams=0\n[MatSetDlg]\nCheckDir=0\n[MdlName]\nRenameDrw=0\n");
   CCfgOption option;
   EXPECT_EQ(option.GetRadioMdl(), 0);
-  option.SetRadioParams(1);
-  option.SetRadioMdl(2);
-  option.SetCheckCurPath(1);
-  option.SetCheckDefValue(1);
-  option.SetCheckDir(1);
-  option.SetCheckAutoSave(1);
-  option.SetRenameDrw(1);
-  EXPECT_EQ(option.GetRadioParams(), 1);
-  EXPECT_EQ(option.GetRadioMdl(), 2);
-  EXPECT_EQ(option.GetCheckCurPath(), 1);
-  EXPECT_EQ(option.GetCheckDefValue(), 1);
-  EXPECT_EQ(option.GetCheckDir(), 1);
-  EXPECT_EQ(option.GetCheckAutoSave(), 1);
-  EXPECT_EQ(option.GetRenameDrw(), 1);
   EXPECT_EQ(option.GetShowLoadDir(), 0);
+  using Setter = void (CCfgOption::*)(int) const;
+  using Getter = int (CCfgOption::*)() const;
+  const std::vector<std::pair<Setter, Getter>> settings = {
+      {&CCfgOption::SetRadioParams, &CCfgOption::GetRadioParams},
+      {&CCfgOption::SetRadioMdl, &CCfgOption::GetRadioMdl},
+      {&CCfgOption::SetCheckCurPath, &CCfgOption::GetCheckCurPath},
+      {&CCfgOption::SetCheckDefValue, &CCfgOption::GetCheckDefValue},
+      {&CCfgOption::SetCheckDir, &CCfgOption::GetCheckDir},
+      {&CCfgOption::SetCheckAutoSave, &CCfgOption::GetCheckAutoSave},
+      {&CCfgOption::SetRenameDrw, &CCfgOption::GetRenameDrw}};
+  // Each its own value, so that two settings sharing a key show.
+  for (size_t i = 0; i < settings.size(); ++i) (option.*settings[i].first)(static_cast<int>(i) + 1);
+  for (size_t i = 0; i < settings.size(); ++i)
+    EXPECT_EQ((option.*settings[i].second)(), static_cast<int>(i) + 1) << i;
 }
 
 TEST_F(ToolOptionsTest, MaterialKeysAndListStyle) {
-  WriteFile("config/Params.cfg",
+  dir.Write("config/Params.cfg",
             "[MatSetDlg]\nSPLKeyParam= 标准 , 规格\nSPLKey=GB,\nSPLKeyPos=2\nMatListStyle=2\n");
   CCfgOption option;
   std::vector<std::wstring> items;
@@ -113,12 +111,12 @@ TEST_F(ToolOptionsTest, MaterialKeysAndListStyle) {
   EXPECT_EQ(items, std::vector<std::wstring>{L"GB"});
   EXPECT_EQ(option.GetSPLKeyPos(), 2);
   EXPECT_EQ(option.GetMatListStyle(), 0) << "only the text 1 means the pick list";
-  WriteFile("config/Params.cfg", "[MatSetDlg]\nMatListStyle=1\n");
+  dir.Write("config/Params.cfg", "[MatSetDlg]\nMatListStyle=1\n");
   EXPECT_EQ(option.GetMatListStyle(), 1);
 }
 
 TEST_F(ToolOptionsTest, ExportSettings) {
-  WriteFile("config/MdlExport.cfg",
+  dir.Write("config/MdlExport.cfg",
             "[Export]\nSortCol=1,2\nExportCreateFolder=1\nExportNameUseParam=1\nExportNameParam=图号, 名称\n"
             "ExportNameSign=_\n");
   CCfgOption option;
@@ -134,10 +132,10 @@ TEST_F(ToolOptionsTest, ExportSettings) {
 }
 
 TEST_F(ToolOptionsTest, LibraryDirectoriesEndEachInASemicolonAndReadBack) {
-  WriteFile("config/SPL.cfg", "[SPL]\nDir=\n");
+  dir.Write("config/SPL.cfg", "[SPL]\nDir=\n");
   CCfgOption option;
   option.SetSplDirs({L"/lib/标准 件", L"/lib/gb"});
-  EXPECT_EQ(ReadFile("config/SPL.cfg"), "[SPL]\nDir=/lib/标准□件;/lib/gb;\n");
+  EXPECT_EQ(dir.Read("config/SPL.cfg"), "[SPL]\nDir=/lib/标准□件;/lib/gb;\n");
   std::vector<std::wstring> dirs;
   option.GetSplDirs(dirs);
   EXPECT_EQ(dirs, (std::vector<std::wstring>{L"/lib/标准 件", L"/lib/gb"}));
@@ -145,7 +143,7 @@ TEST_F(ToolOptionsTest, LibraryDirectoriesEndEachInASemicolonAndReadBack) {
 
 TEST_F(ToolOptionsTest, FamilyInstanceBackupIsOnForAnythingButZero) {
   for (auto [lines, read] : {std::pair{"Dir=", 1}, {"FmlInstBackup=0", 0}, {"FmlInstBackup=2", 1}}) {
-    WriteFile("config/SPL.cfg", std::string("[SPL]\n") + lines + "\n");
+    dir.Write("config/SPL.cfg", std::string("[SPL]\n") + lines + "\n");
     EXPECT_EQ(CCfgOption().GetFmlInstBackup(), read) << lines;
   }
   CCfgOption().SetFmlInstBackup(0);

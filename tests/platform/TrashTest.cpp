@@ -1,9 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
 #include <regex>
-#include <sstream>
 
 #include "CodePage.h"
 #include "ScopedTrash.h"
@@ -16,13 +14,6 @@ namespace {
 
 class TrashTest : public testing::Test {
  protected:
-  std::string InfoText(const std::string& name) const {
-    std::ifstream in(trash_.Info() / (name + ".trashinfo"));
-    std::ostringstream text;
-    text << in.rdbuf();
-    return text.str();
-  }
-
   TestDir dir_;
   ScopedTrash trash_{dir_};
 };
@@ -44,7 +35,7 @@ TEST_F(TrashTest, TrashedFileCanBeRestoredWhereItWas) {
 TEST_F(TrashTest, InfoRecordFollowsTheTrashFormat) {
   dir_.Write("my dir/零件 a.prt", "x");
   ASSERT_TRUE(platform::MoveToTrash(dir_.Wide("my dir") + L"/" + platform::ToWide("零件 a.prt")));
-  std::string info = InfoText("零件 a.prt");
+  std::string info = dir_.Read("xdg/Trash/info/零件 a.prt.trashinfo");
   std::regex format(
       "\\[Trash Info\\]\nPath=/[A-Za-z0-9_./~-]*my%20dir/%E9%9B%B6%E4%BB%B6%20a\\.prt\n"
       "DeletionDate=\\d{4}-\\d\\d-\\d\\dT\\d\\d:\\d\\d:\\d\\d\n");
@@ -58,10 +49,7 @@ TEST_F(TrashTest, SameNameTwiceKeepsBoth) {
     ASSERT_TRUE(platform::MoveToTrash(dir_.Wide("a.prt")));
   }
   ASSERT_EQ(trash_.Names(), (std::vector<std::string>{"a.prt", "a.prt (2)"}));
-  std::ifstream second(trash_.Files() / "a.prt (2)");
-  std::string text;
-  second >> text;
-  EXPECT_EQ(text, "second");
+  EXPECT_EQ(dir_.Read("xdg/Trash/files/a.prt (2)"), "second");
   EXPECT_EQ(trash_.OriginalPath("a.prt (2)"), dir_.path() / "a.prt");
 }
 

@@ -34,13 +34,10 @@ TEST_F(DlgConfigTest, StatesAreStoredUnderTheControlId) {
             "1\n1003=2\n");
 }
 
-TEST_F(DlgConfigTest, NeverStoredStatesReadAsTheirDefaults) {
+TEST_F(DlgConfigTest, NeverStoredStatesReadAsTheirDefaultsAndOnesThatAreNoNumberAsZero) {
   EXPECT_EQ(config_.GetComboState(1003), -1) << "the caller picks its own first entry";
   EXPECT_EQ(config_.GetRadioState(1002), 0);
   EXPECT_EQ(config_.GetCheckState(1001), 0);
-}
-
-TEST_F(DlgConfigTest, AStateThatIsNoNumberReadsZero) {
   dir_.Write("config/MdlExport.cfg", "[DlgChkBox]\n1001=on\n[DlgCombo]\n1003=x\n");
   EXPECT_EQ(config_.GetCheckState(1001), 0);
   EXPECT_EQ(config_.GetComboState(1003), 0);

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <map>
+#include <vector>
 
 #include "LayoutStore.h"
 
@@ -40,23 +41,24 @@ class LayoutStoreTest : public testing::Test {
 
 }  // namespace
 
-TEST_F(LayoutStoreTest, EdgeAnchorsKeepTheirMargins) {
-  EXPECT_EQ(Resized(kAnchorStretchBoth, 500, 400), (LayoutRect{20, 30, 200, 150}));
-  EXPECT_EQ(Resized(kAnchorBottom, 500, 400), (LayoutRect{20, 130, 100, 50}));
-  EXPECT_EQ(Resized(kAnchorRight, 500, 400), (LayoutRect{120, 30, 100, 50}));
-  EXPECT_EQ(Resized(kAnchorRightBottom, 500, 400), (LayoutRect{120, 130, 100, 50}));
-  EXPECT_EQ(Resized(kAnchorStretchWidth, 500, 400), (LayoutRect{20, 30, 200, 50}));
-  EXPECT_EQ(Resized(kAnchorStretchHeight, 500, 400), (LayoutRect{20, 30, 100, 150}));
-  EXPECT_EQ(Resized(kAnchorBottomStretchWidth, 500, 400), (LayoutRect{20, 130, 200, 50}));
-  EXPECT_EQ(Resized(kAnchorRightStretchHeight, 500, 400), (LayoutRect{120, 30, 100, 150}));
-}
-
-TEST_F(LayoutStoreTest, HalfAnchorsShareTheGrowthOfTheWidth) {
-  EXPECT_EQ(Resized(kAnchorLeftHalfStretchHeight, 500, 400), (LayoutRect{20, 30, 150, 150}));
-  EXPECT_EQ(Resized(kAnchorRightHalfStretchHeight, 500, 400), (LayoutRect{70, 30, 150, 150}));
-  EXPECT_EQ(Resized(kAnchorLeftHalf, 500, 400), (LayoutRect{20, 30, 150, 50}));
-  EXPECT_EQ(Resized(kAnchorRightHalf, 500, 400), (LayoutRect{70, 30, 150, 50}));
-  EXPECT_EQ(Resized(kAnchorRightHalfMove, 500, 400), (LayoutRect{70, 30, 100, 50}));
+// Edge anchors keep their margins; half anchors share the growth of the width.
+TEST_F(LayoutStoreTest, EachAnchorKeepsItsMarginsOrItsShareOfTheGrowth) {
+  const std::vector<std::pair<int, LayoutRect>> expected = {
+      {kAnchorStretchBoth, {20, 30, 200, 150}},
+      {kAnchorBottom, {20, 130, 100, 50}},
+      {kAnchorRight, {120, 30, 100, 50}},
+      {kAnchorRightBottom, {120, 130, 100, 50}},
+      {kAnchorStretchWidth, {20, 30, 200, 50}},
+      {kAnchorStretchHeight, {20, 30, 100, 150}},
+      {kAnchorBottomStretchWidth, {20, 130, 200, 50}},
+      {kAnchorRightStretchHeight, {120, 30, 100, 150}},
+      {kAnchorLeftHalfStretchHeight, {20, 30, 150, 150}},
+      {kAnchorRightHalfStretchHeight, {70, 30, 150, 150}},
+      {kAnchorLeftHalf, {20, 30, 150, 50}},
+      {kAnchorRightHalf, {70, 30, 150, 50}},
+      {kAnchorRightHalfMove, {70, 30, 100, 50}},
+  };
+  for (const auto& [anchor, rect] : expected) EXPECT_EQ(Resized(anchor, 500, 400), rect) << anchor;
 }
 
 TEST_F(LayoutStoreTest, AnOddGrowthLeavesThePairOnePixelShort) {
@@ -102,21 +104,4 @@ TEST_F(LayoutStoreTest, NothingMovesUntilInitialisedWithAnIdAndEnabled) {
   dialog.client = {0, 0, 600, 500};
   disabled.Apply();
   EXPECT_EQ(dialog.controls[7], (LayoutRect{20, 30, 100, 50}));
-}
-
-TEST_F(LayoutStoreTest, RegistrationMeasuresMarginsAndPlace) {
-  FakeDialog dialog;
-  dialog.controls[4] = {20, 30, 100, 50};
-  CLayoutStore store;
-  store.Init(1, &dialog);
-  store.Add(kAnchorRightBottom, 4);
-  const OffSetValue& value = store.Values().front();
-  EXPECT_EQ(value.rightMargin, 280);
-  EXPECT_EQ(value.bottomMargin, 220);
-  EXPECT_EQ(value.width, 100);
-  EXPECT_EQ(value.height, 50);
-  EXPECT_EQ(value.left, 20);
-  EXPECT_EQ(value.top, 30);
-  EXPECT_EQ(value.controlId, 4);
-  EXPECT_EQ(value.anchor, kAnchorRightBottom);
 }

@@ -34,34 +34,27 @@ std::vector<std::vector<std::string>> ParseCsv(const std::string& text) {
   std::string field;
   bool quoted = false;
   bool fieldStarted = false;
+  auto endField = [&] {
+    rows.back().push_back(field);
+    field.clear();
+    fieldStarted = false;
+  };
   for (size_t i = 0; i < text.size(); ++i) {
     char c = text[i];
-    if (quoted) {
-      if (c == '"' && i + 1 < text.size() && text[i + 1] == '"') {
-        field += '"';
-        ++i;
-      } else if (c == '"') {
-        quoted = false;
-      } else {
-        field += c;
-      }
+    if (quoted && c == '"' && i + 1 < text.size() && text[i + 1] == '"') {
+      field += text[i++];
     } else if (c == '"') {
-      quoted = fieldStarted = true;
-    } else if (c == ',') {
-      rows.back().push_back(field);
-      field.clear();
-      fieldStarted = false;
-    } else if (c == '\n') {
-      rows.back().push_back(field);
-      field.clear();
-      fieldStarted = false;
-      rows.emplace_back();
-    } else if (c != '\r') {
+      quoted = !quoted;
+      fieldStarted = true;
+    } else if (quoted || (c != ',' && c != '\n' && c != '\r')) {
       field += c;
       fieldStarted = true;
+    } else if (c != '\r') {
+      endField();
+      if (c == '\n') rows.emplace_back();
     }
   }
-  if (fieldStarted || !field.empty()) rows.back().push_back(field);
+  if (fieldStarted || !field.empty()) endField();
   if (rows.back().empty()) rows.pop_back();
   return rows;
 }
@@ -89,20 +82,10 @@ std::string PythonReaderProblems(const WrittenFile& written, const fs::path& wor
   expectations["cells"] = nlohmann::json::array();
   for (const ExpectedCell& cell : written.cells) {
     nlohmann::json entry = {{"sheet", cell.sheet}, {"row", cell.row}, {"column", cell.column}};
-    switch (cell.kind) {
-      case ExpectedCell::Kind::Text:
-        entry["kind"] = "text";
-        entry["value"] = cell.text;
-        break;
-      case ExpectedCell::Kind::Number:
-        entry["kind"] = "number";
-        entry["value"] = cell.number;
-        break;
-      case ExpectedCell::Kind::Empty:
-        entry["kind"] = "empty";
-        entry["value"] = nullptr;
-        break;
-    }
+    entry["kind"] = std::array{"text", "number", "empty"}[static_cast<int>(cell.kind)];
+    entry["value"] = cell.kind == ExpectedCell::Kind::Text     ? nlohmann::json(cell.text)
+                     : cell.kind == ExpectedCell::Kind::Number ? nlohmann::json(cell.number)
+                                                               : nlohmann::json(nullptr);
     expectations["cells"].push_back(entry);
   }
   fs::path json = workDir / (written.file.filename().string() + ".expected.json");
