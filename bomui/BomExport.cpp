@@ -84,9 +84,11 @@ int WriteBomExcel(const BomOutputTarget& target, const BomCheckedRows& rows) {
   int rowsOfPage = 0;
   option.GetTblLayout(firstRow, firstCol, rowsOfPage);
 
+  // Lower case here; the file system's lookup finds the delivered BOM.xls.
+  const std::wstring templatePath = CTkFile().GetAppDir() + L"\\template\\bom.xls";
   const std::wstring dir = BomExcelDir(target.outDir);
   platform::CreateDirectory(dir);
-  const std::wstring path = dir + L"\\" + target.fileName + L".xls";
+  const std::wstring path = dir + L"\\" + target.fileName + ExcelApp::ExtensionFor(templatePath);
   if (CTkFile().FileExists(path) && !AskYes(L"文件：" + path + L" 已经存在，是否覆盖？")) return 0;
   DeleteTargetFile(path);
 
@@ -95,8 +97,7 @@ int WriteBomExcel(const BomOutputTarget& target, const BomCheckedRows& rows) {
     Tell(L"启动Excel失败");
     return 0;
   }
-  // Lower case here; the file system's lookup finds the delivered BOM.xls.
-  if (!excel.NewFromTemplate(CTkFile().GetAppDir() + L"\\template\\bom.xls")) {
+  if (!excel.NewFromTemplate(templatePath)) {
     Tell(L"新建Excel失败");
     return 0;
   }

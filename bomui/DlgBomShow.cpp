@@ -11,6 +11,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+#include "BomDrawing.h"
 #include "BomListCells.h"
 #include "DialogLayout.h"
 #include "DlgBomFilterSet.h"
@@ -327,7 +328,18 @@ int CDlgBomShow::ExportToExcel(int rowCount) { return WriteBomExcel(OutputTarget
 int CDlgBomShow::ExportToText(int rowCount) {
   return WriteBomText(OutputTarget(), cols_, CheckedRows(rowCount));
 }
-int CDlgBomShow::ExportToDrawing(int) { return 0; }
+int CDlgBomShow::ExportToDrawing(int rowCount) {
+  int type = 0;
+  model_.GetCurMdlType(type);
+  if (type != CTkModel::kDrawing) return 1;
+  std::vector<int> pixelWidths;
+  for (int col = 0; col < list_->columnCount(); ++col) pixelWidths.push_back(list_->columnWidth(col));
+  // The header follows the column table as it is now, not as the list was
+  // made: a table changed meanwhile no longer fits the list's columns.
+  std::vector<ColInfo> cols;
+  option_.GetColInfos(cols);
+  return WriteBomDrawing(BomDrawingColumnWidths(pixelWidths), BomDrawingTable(cols, CheckedRows(rowCount)));
+}
 
 void CDlgBomShow::OnLevel(int level) {
   option_.SetLevelType(level);

@@ -70,8 +70,7 @@ class CDlgBomShow : public QDialog {
   // Writes every shown parameter cell of every list row to its model,
   // creating parameters that are missing; 1.
   int SaveListParams();
-  // The outputs of the button "输出" over the first `rowCount` list rows; the
-  // drawing table comes with its own work and does nothing yet.
+  // The outputs of the button "输出" over the first `rowCount` list rows.
   int ExportToExcel(int rowCount);
   int ExportToText(int rowCount);
   int ExportToDrawing(int rowCount);

@@ -6,6 +6,14 @@
 #include "Files.h"
 #include "Shell.h"
 
+namespace {
+
+std::wstring ExtensionOf(workbook::Format format) {
+  return format == workbook::Format::Xlsx ? L".xlsx" : L".xls";
+}
+
+}  // namespace
+
 ExcelApp::ExcelApp() = default;
 
 ExcelApp::~ExcelApp() { CloseAll(); }
@@ -45,12 +53,16 @@ int ExcelApp::GetCellText(const std::wstring& sheet, int row, int column, std::w
   return 1;
 }
 
+std::wstring ExcelApp::ExtensionFor(const std::wstring& templatePath) {
+  return ExtensionOf(workbook::FormatOfFile(platform::ResolvePath(templatePath)));
+}
+
 int ExcelApp::SaveWorkbookAs(const std::wstring& directory, const std::wstring& name) {
   workbook::Workbook& active = ActiveWorkbook();
   std::wstring path = directory;
   if (path.empty() || path.back() != L'\\') path += L'\\';
   path += name;
-  path += active.format() == workbook::Format::Xlsx ? L".xlsx" : L".xls";
+  path += ExtensionOf(active.format());
   active.SaveAs(platform::ResolvePath(path));
   return 1;
 }

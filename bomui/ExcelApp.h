@@ -38,8 +38,12 @@ class ExcelApp {
   int SetCellText(const std::wstring& sheet, int row, int column, const std::wstring& text);
   // Empties `text`, then gives the cell's value as text.
   int GetCellText(const std::wstring& sheet, int row, int column, std::wstring& text);
-  // Saves as directory + "\" (unless it ends in one) + name + ".xls".
+  // Saves as directory + "\" (unless it ends in one) + name + the extension
+  // of the workbook's format.
   int SaveWorkbookAs(const std::wstring& directory, const std::wstring& name);
+  // The extension that a workbook made from the template is saved with:
+  // ".xlsx" for a template of that format whatever its name, else ".xls".
+  static std::wstring ExtensionFor(const std::wstring& templatePath);
   // Drops the workbook without saving and quits; further calls do nothing.
   void CloseAll();
 

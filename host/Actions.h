@@ -12,3 +12,7 @@ int OpenWorkDirectory(uiCmdCmdId, uiCmdValue*, void*);
 // left from the last command goes with its state. Without a windowing
 // application in the process (a headless host) nothing opens.
 int ShowBomList(uiCmdCmdId, uiCmdValue*, void*);
+
+// The column table and the template of the BOM list, in a modal dialog that
+// the command waits for. Nothing opens in a headless host.
+int ShowBomSet(uiCmdCmdId, uiCmdValue*, void*);

@@ -34,7 +34,7 @@ constexpr CommandDef kBomCommands[] = {
      {},
      Always,
      true,
-     NotYetAvailable},
+     ShowBomSet},
     {"CmdBOMSet2Id",
      nullptr,
      nullptr,
@@ -43,7 +43,7 @@ constexpr CommandDef kBomCommands[] = {
      {"BOMSetMenuBtn", "BOMSetMenuBtn", "BOMSetMenuBtn"},
      Always,
      false,
-     NotYetAvailable},
+     ShowBomSet},
 };
 
 constexpr CommandDef kParamCommands[] = {

@@ -15,9 +15,6 @@ void CopyToBuffer(wchar_t (&buffer)[N], const std::wstring& text) {
   buffer[N - 1] = L'\0';
 }
 
-// A path holding more than one dot loses everything from its last dot:
-// a.prt.3 becomes a.prt. The whole path counts, so a dotted directory costs
-// an unversioned file its extension.
 inline std::wstring Upper(std::wstring text) {
   for (wchar_t& c : text) c = static_cast<wchar_t>(std::towupper(c));
   return text;
@@ -30,6 +27,9 @@ inline std::wstring TrimBlanks(const std::wstring& text) {
   return text.substr(first, text.find_last_not_of(L' ') - first + 1);
 }
 
+// A path holding more than one dot loses everything from its last dot:
+// a.prt.3 becomes a.prt. The whole path counts, so a dotted directory costs
+// an unversioned file its extension.
 inline std::wstring CutLastDotOfSeveral(std::wstring path) {
   std::size_t last = path.rfind(L'.');
   if (path.find(L'.') != last) path.erase(last);

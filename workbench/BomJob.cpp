@@ -15,6 +15,7 @@
 #include "CodePage.h"
 #include "Files.h"
 #include "HostControl.h"
+#include "Inspection.h"
 #include "MessageBox.h"
 
 namespace {
@@ -117,6 +118,7 @@ bool SetControls(const BomOptions& options, ControlSetter& setter) {
   if (options.filter && !setter.Choose("FilterCombo", *options.filter)) return false;
   if (options.excel && !setter.Check("ExcelCheck")) return false;
   if (options.text && !setter.Check("TextCheck")) return false;
+  if (options.drawing && !setter.Check("DrawingCheck")) return false;
   if (options.out) {
     // A directory the user chooses exists; the Excel output makes one level
     // below it only.
@@ -126,9 +128,32 @@ bool SetControls(const BomOptions& options, ControlSetter& setter) {
   return !options.name || setter.Type("FileNameEdit", *options.name);
 }
 
+ProMdl CurrentModel() {
+  for (const sim::WindowInfo& window : sim::Windows()) {
+    if (window.id == sim::CurrentWindow()) return window.model;
+  }
+  return nullptr;
+}
+
+// The table lives in the drawing in session until the drawing is saved.
+bool SaveChangedDrawing(const std::filesystem::path& workdir, std::ostream& out, std::ostream& err) {
+  ProMdl current = CurrentModel();
+  for (const sim::SessionModel& model : sim::SessionModels()) {
+    if (model.handle != current || !model.modified) continue;
+    std::optional<std::filesystem::path> file = sim::WriteModelCopy(current, workdir);
+    if (!file) {
+      err << "bom-workbench: the drawing could not be saved\n";
+      return false;
+    }
+    out << "wrote " << file->string() << "\n";
+  }
+  return true;
+}
+
 }  // namespace
 
-int RunBomJob(const BomOptions& options, std::ostream& out, std::ostream& err, int argc, char* argv[]) {
+int RunBomJob(const BomOptions& options, const std::filesystem::path& workdir, std::ostream& out,
+              std::ostream& err, int argc, char* argv[]) {
   if (!HasDisplay() && !std::getenv("QT_QPA_PLATFORM")) setenv("QT_QPA_PLATFORM", "offscreen", 1);
   QApplication app(argc, argv);
   platform::MessageBoxHandler previous =
@@ -151,7 +176,9 @@ int RunBomJob(const BomOptions& options, std::ostream& out, std::ostream& err, i
   ControlSetter setter(dialog, err);
   int exitCode = 0;
   try {
+    if (options.pick) sim::PushAnswer("ProMousePickGet", *options.pick);
     if (!SetControls(options, setter) || !setter.Click("ExportButton")) exitCode = 1;
+    if (exitCode == 0 && options.drawing && !SaveChangedDrawing(workdir, out, err)) exitCode = 1;
   } catch (const std::exception& error) {
     err << "bom-workbench: the output broke off: " << error.what() << "\n";
     exitCode = 1;

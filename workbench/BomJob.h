@@ -4,6 +4,7 @@
 // the screen. Each prompt and each file written goes to the output.
 #pragma once
 
+#include <filesystem>
 #include <optional>
 #include <ostream>
 #include <string>
@@ -16,6 +17,8 @@ struct BomOptions {
   std::optional<int> filter;         // entry of the filter box
   bool excel = false;                // check the output box "Excel"
   bool text = false;                 // check the output box "Text"
+  bool drawing = false;              // check the output box "Drawing"
+  std::optional<std::wstring> pick;  // "X,Y": the point the user picks on the drawing
   std::optional<std::wstring> out;   // text of the output directory field
   std::optional<std::wstring> name;  // text of the file name field
   bool overwrite = false;            // the answer to the overwrite question
@@ -23,5 +26,7 @@ struct BomOptions {
 
 // Makes the application (offscreen without a display) and runs the job; 0,
 // or 1 when the command or a control is missing or an output broke off, the
-// reason on `err`.
-int RunBomJob(const BomOptions& options, std::ostream& out, std::ostream& err, int argc, char* argv[]);
+// reason on `err`. A drawing that got a table is saved into `workdir`,
+// leaving the session's files as they are.
+int RunBomJob(const BomOptions& options, const std::filesystem::path& workdir, std::ostream& out,
+              std::ostream& err, int argc, char* argv[]);

@@ -5,9 +5,11 @@
 
 #include <iostream>
 
+#include "FileDialog.h"
 #include "HostChoosers.h"
 #include "MainWindow.h"
 #include "MessageBox.h"
+#include "QtFileDialog.h"
 #include "QtMessageBox.h"
 
 namespace {
@@ -41,12 +43,14 @@ QImage GrabWindows(QWidget* main) {
 int RunGui(const GuiOptions& options, int argc, char* argv[]) {
   QApplication app(argc, argv);
   InstallQtMessageBoxHandler();
+  InstallQtFileDialogHandler();
   InstallHostChoosers();
   // The choosers and boxes live no longer than the application.
   struct Uninstall {
     ~Uninstall() {
       RemoveHostChoosers();
       platform::SetMessageBoxHandler(nullptr);
+      platform::SetFileOpenHandler(nullptr);
     }
   } uninstall;
   MainWindow window;

@@ -4,6 +4,8 @@
 #include <QFileDialog>
 
 #include "HostControl.h"
+#include "Inspection.h"
+#include "PickPointDialog.h"
 
 namespace {
 
@@ -19,6 +21,7 @@ std::optional<std::wstring> Ask(const std::string& callName, const std::wstring&
   QString start = QString::fromStdWString(defaultPath);
   if (callName == "ProDirectoryChoose")
     return Chosen(QFileDialog::getExistingDirectory(parent, caption, start));
+  if (callName == "ProMousePickGet") return AskPickPoint(parent, sim::Messages().currentLine);
   if (callName == "ProFileMdlfiletypeOpen") {
     return Chosen(QFileDialog::getOpenFileName(parent, caption, start, "模型 (*.prt* *.asm* *.drw*)"));
   }

@@ -2,6 +2,8 @@
 
 #include "CodePage.h"
 
+#include <cstdlib>
+
 namespace {
 
 bool IsFlag(const std::string& value) { return value == "0" || value == "1"; }
@@ -45,6 +47,18 @@ bool ParseIndex(const std::string& value, int& index) {
   return true;
 }
 
+// Two numbers separated by a comma, as the simulated host reads a pick.
+bool IsPoint(const std::string& value) {
+  size_t comma = value.find(',');
+  if (comma == std::string::npos) return false;
+  for (const std::string& number : {value.substr(0, comma), value.substr(comma + 1)}) {
+    char* end = nullptr;
+    std::strtod(number.c_str(), &end);
+    if (number.empty() || *end != '\0') return false;
+  }
+  return true;
+}
+
 // False for an option that the bom job does not know.
 bool ParseBomOption(const std::string& name, const std::string& value, BomOptions& bom, std::string& error) {
   int index = 0;
@@ -58,6 +72,9 @@ bool ParseBomOption(const std::string& name, const std::string& value, BomOption
     bom.out = platform::ToWide(value);
   } else if (name == "--name") {
     bom.name = platform::ToWide(value);
+  } else if (name == "--pick") {
+    bom.pick = platform::ToWide(value);
+    if (!IsPoint(value)) error = "--pick takes a point X,Y";
   } else {
     return false;
   }
@@ -72,6 +89,8 @@ bool ParseBomFlag(const std::string& name, BomOptions& bom) {
     bom.text = true;
   } else if (name == "--overwrite") {
     bom.overwrite = true;
+  } else if (name == "--drawing") {
+    bom.drawing = true;
   } else {
     return false;
   }
@@ -79,7 +98,8 @@ bool ParseBomFlag(const std::string& name, BomOptions& bom) {
 }
 
 bool SetsNoControl(const BomOptions& bom) {
-  return !bom.level && !bom.sort && !bom.filter && !bom.excel && !bom.text && !bom.out && !bom.name;
+  return !bom.level && !bom.sort && !bom.filter && !bom.excel && !bom.text && !bom.drawing && !bom.out &&
+         !bom.name;
 }
 
 }  // namespace
@@ -120,6 +140,9 @@ ParseResult ParseOptions(const std::vector<std::string>& args) {
     }
   }
   if (rowsJob && options.rows.level.empty()) return {std::nullopt, "the rows job needs --level"};
+  // Nobody is there to pick a point in a headless run.
+  if (bomJob && options.bom.drawing != options.bom.pick.has_value())
+    return {std::nullopt, "--drawing and --pick X,Y go together"};
   if (bomJob && SetsNoControl(options.bom)) {
     options.bom.level = "multi";
     options.bom.excel = options.bom.text = true;
@@ -142,5 +165,5 @@ std::string Usage() {
          "DIR]\n"
          "                         [--level single|multi|summary] [--sort N] [--filter N] [--excel] "
          "[--text]\n"
-         "                         [--out DIR] [--name NAME] [--overwrite]\n";
+         "                         [--drawing --pick X,Y] [--out DIR] [--name NAME] [--overwrite]\n";
 }

@@ -35,7 +35,7 @@ int main(int argc, char* argv[]) {
   if (options.job == "rows") {
     exitCode = PrintRows(options.rows, std::cout, std::cerr);
   } else if (options.job == "bom") {
-    exitCode = RunBomJob(options.bom, std::cout, std::cerr, argc, argv);
+    exitCode = RunBomJob(options.bom, options.workdir, std::cout, std::cerr, argc, argv);
   } else if (options.job == "gui") {
     exitCode = RunGui(options.gui, argc, argv);
   } else {

@@ -52,6 +52,13 @@ std::unique_ptr<Workbook> OpenWorkbook(const std::filesystem::path& file) {
   }
 }
 
+Format FormatOfFile(const std::filesystem::path& file) {
+  std::ifstream in(file, std::ios::binary);
+  Bytes head(4);
+  in.read(reinterpret_cast<char*>(head.data()), static_cast<std::streamsize>(head.size()));
+  return in && StartsWith(head, {'P', 'K', 0x03, 0x04}) ? Format::Xlsx : Format::Xls;
+}
+
 std::unique_ptr<Workbook> LoadWorkbook(const Bytes& image) {
   if (StartsWith(image, {0xD0, 0xCF, 0x11, 0xE0, 0xA1, 0xB1, 0x1A, 0xE1})) {
     return std::make_unique<XlsWorkbook>(image);

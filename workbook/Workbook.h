@@ -51,5 +51,8 @@ class Workbook {
 // one older than BIFF8.
 std::unique_ptr<Workbook> OpenWorkbook(const std::filesystem::path& file);
 std::unique_ptr<Workbook> LoadWorkbook(const Bytes& image);
+// The format of the file by its first bytes; Xls when they say nothing else
+// or the file cannot be read.
+Format FormatOfFile(const std::filesystem::path& file);
 
 }  // namespace workbook

@@ -204,6 +204,27 @@ TEST_F(BomExportTest, DirectoryFieldWithoutBackslashGetsASiblingEndingInExcel) {
   EXPECT_FALSE(fs::exists(dir.path() / "out" / "Excel"));
 }
 
+// A user's template saved in the newer format keeps the template's name.
+TEST_F(BomExportTest, TemplateOfTheNewerFormatGivesAWorkbookOfThatFormat) {
+  fs::path xlsxTemplate = fs::path(BOM_TEST_DATA_DIR) / "workbook" / "BOM.xlsx";
+  fs::copy_file(xlsxTemplate, fs::path(platform::ToNarrow(host.TextRoot())) / "template" / "BOM.xls",
+                fs::copy_options::overwrite_existing);
+  Open();
+  list->SetCheck(0, false);
+  std::vector<int> checked;
+  for (int row = 1; row < list->GetItemCount(); ++row) checked.push_back(row);
+  Press(true, false);
+
+  fs::path written = dir.path() / "out" / "Excel" / "清单.xlsx";
+  ASSERT_TRUE(fs::exists(written));
+  EXPECT_FALSE(fs::exists(Workbook()));
+  std::vector<ExpectedCell> cells = HeadCells();
+  for (const ExpectedCell& cell : TableCells(checked, 4, 1)) cells.push_back(cell);
+  ExpectIndependentReadersAgree({{written, xlsxTemplate, cells}}, dir.path());
+  std::wstring shown = dir.Wide("out") + L"\\Excel\\清单.xlsx";
+  EXPECT_EQ(prompts, std::vector<std::wstring>{L"提示:是否打开：" + shown + L" ？"});
+}
+
 TEST_F(BomExportTest, MissingTemplateIsToldAndNothingIsSaved) {
   Open();
   fs::remove(fs::path(platform::ToNarrow(host.TextRoot())) / "template" / "BOM.xls");

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "ModelFile.h"
 #include "TestDir.h"
 
 namespace fs = std::filesystem;
@@ -125,10 +126,31 @@ TEST_F(BomJobTest, SortAndFilterEntriesAreChosenAsTheUserCould) {
   EXPECT_TRUE(missing.lines.empty());
 }
 
+TEST_F(BomJobTest, DrawingGetsTheTableAtThePickedPointAndIsSavedIntoTheWorkDirectory) {
+  JobRun run = Bom("--current reducer.drw --level single --drawing --pick 300,120");
+  ASSERT_EQ(run.exitCode, 0) << run.err;
+  fs::path saved = Work() / "reducer.drw.1";
+  EXPECT_EQ(run.lines, std::vector<std::string>{"wrote " + saved.string()});
+  std::optional<sim::ModelDef> drawing = sim::ReadModelFile(saved);
+  ASSERT_TRUE(drawing.has_value());
+  ASSERT_EQ(drawing->tables.size(), 1u);
+  const sim::TableDef& table = drawing->tables[0];
+  EXPECT_EQ(table.rows.size(), RowCount("single") + 1);
+  double height = 0;
+  for (double row : table.rows) height += row;
+  EXPECT_DOUBLE_EQ(table.origin[0], 300);
+  EXPECT_DOUBLE_EQ(table.origin[1], 120 + height);
+}
+
 TEST_F(BomJobTest, BadOptionsAndAPartAsCurrentModelAreRefused) {
   EXPECT_EQ(Bom("--level deep").exitCode, 2);
   EXPECT_EQ(Bom("--sort x").exitCode, 2);
   EXPECT_EQ(Bom("--pick").exitCode, 2);
+  EXPECT_EQ(Bom("--drawing").exitCode, 2);
+  EXPECT_EQ(Bom("--drawing --pick 3").exitCode, 2);
+  JobRun assembly = Bom("--drawing --pick 1,2");
+  EXPECT_EQ(assembly.exitCode, 1);
+  EXPECT_NE(assembly.err.find("DrawingCheck is disabled"), std::string::npos) << assembly.err;
   JobRun part = Bom("--current housing.prt");
   EXPECT_EQ(part.exitCode, 1);
   EXPECT_NE(part.err.find("CmdBOMShowId is not available"), std::string::npos) << part.err;

@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
 #include <QAction>
+#include <QDoubleSpinBox>
+#include <QLabel>
 #include <QApplication>
 #include <QFileDialog>
 #include <QPlainTextEdit>
@@ -11,6 +13,8 @@
 #include "HostChoosers.h"
 #include "HostControl.h"
 #include "MainWindow.h"
+#include "ProGraphic.h"
+#include "ProMessage.h"
 #include "PluginHost.h"
 #include "ProToolkitDll.h"
 #include "ProUtil.h"
@@ -117,6 +121,33 @@ TEST_F(MainWindowTest, HostChooserAsksInAFileDialog) {
   EXPECT_EQ(status, PRO_TK_NO_ERROR);
   EXPECT_EQ(caption, "选择目录");
   EXPECT_EQ(std::filesystem::path(selected), chosen);
+}
+
+TEST_F(MainWindowTest, MousePickIsAskedAsAPointUnderTheHostsPrompt) {
+  InstallHostChoosers();
+  QString prompt;
+  auto* poll = new QTimer;
+  QObject::connect(poll, &QTimer::timeout, [&, poll] {
+    QWidget* dialog = QApplication::activeModalWidget();
+    if (!dialog || dialog->objectName() != "PickPointDialog") return;
+    poll->stop();
+    poll->deleteLater();
+    prompt = dialog->findChild<QLabel*>("PickPrompt")->text();
+    dialog->findChild<QDoubleSpinBox*>("PickX")->setValue(12.5);
+    dialog->findChild<QDoubleSpinBox*>("PickY")->setValue(-40);
+    QMetaObject::invokeMethod(dialog, "accept");
+  });
+  poll->start(5);
+  ProFileName file = L"BOMMsg.txt";
+  ProMessageDisplay(file, const_cast<char*>("please select a pos for placing table"));
+  ProMouseButton pressed = PRO_NO_BUTTON;
+  ProPoint3d point{};
+  ProError status = ProMousePickGet(PRO_LEFT_BUTTON, &pressed, point);
+  RemoveHostChoosers();
+  ASSERT_EQ(status, PRO_TK_NO_ERROR);
+  EXPECT_EQ(prompt, "请选择表格放置位置");
+  EXPECT_DOUBLE_EQ(point[0], 12.5);
+  EXPECT_DOUBLE_EQ(point[1], -40);
 }
 
 }  // namespace

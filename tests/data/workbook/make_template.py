@@ -1,7 +1,8 @@
 #!/usr/bin/python3
 """Makes template.xls and template.xlsx, the template of the engine's typed
-tests, through LibreOffice from one description. Run it after changing the
-cells below; the tests name these cells."""
+tests, through LibreOffice from one description, and BOM.xlsx, the delivered
+BOM template in the newer format as a user may save it. Run it after
+changing the cells below; the tests name these cells."""
 
 import os
 import sys
@@ -44,6 +45,18 @@ def main():
     finally:
         os.remove(source)
     add_calculation_chain(os.path.join(HERE, "template.xlsx"), os.path.join(HERE, "calc_chain.xlsx"))
+    make_bom_xlsx()
+
+
+def make_bom_xlsx():
+    from make_templates import bom_sheet
+    source = os.path.join(HERE, "BOM.fods")
+    with open(source, "w", encoding="utf-8") as out:
+        out.write(fods([bom_sheet()]))
+    try:
+        convert(source, HERE, ["xlsx"])
+    finally:
+        os.remove(source)
 
 
 def add_calculation_chain(source, target):
