@@ -36,34 +36,43 @@ class HostArray {
   T* items_ = nullptr;
 };
 
-class NoteData {
+// A cell's note with its data and lines, as the note calls walk it; the
+// data is freed on every way out.
+class CellNote {
  public:
-  NoteData() = default;
-  NoteData(const NoteData&) = delete;
-  NoteData& operator=(const NoteData&) = delete;
-  ~NoteData() {
+  CellNote() = default;
+  CellNote(const CellNote&) = delete;
+  CellNote& operator=(const CellNote&) = delete;
+  ~CellNote() {
     if (data_) ProDtlnotedataFree(data_);
   }
-  ProDtlnotedata* Out() { return &data_; }
-  ProDtlnotedata Get() const { return data_; }
+  ProError Open(ProDwgtable& table, int row, int column) {
+    ProError status = ProDwgtableCellNoteGet(&table, column, row, &note_);
+    if (status == PRO_TK_NO_ERROR) status = ProDtlnoteDataGet(&note_, nullptr, PRODISPMODE_NUMERIC, &data_);
+    if (status == PRO_TK_NO_ERROR) status = ProDtlnotedataLinesCollect(data_, lines_.Out());
+    return status;
+  }
+  HostArray<ProDtlnoteline>& Lines() { return lines_; }
+  // Makes the lines, as changed, the note's own.
+  void Modify() {
+    ProDtlnoteldataLinesSet(data_, lines_.Data());
+    ProDtlnoteModify(&note_, nullptr, data_);
+  }
 
  private:
+  ProDtlnote note_{};
   ProDtlnotedata data_ = nullptr;
+  HostArray<ProDtlnoteline> lines_;
 };
 
 // The first text of the cell's note that answers `query` gives the value.
 int QueryCellText(ProDwgtable& table, int row, int column, ProError (*query)(ProDtlnotetext, double*),
                   double& value) {
-  ProDtlnote note{};
-  ProError status = ProDwgtableCellNoteGet(&table, column, row, &note);
-  if (status != PRO_TK_NO_ERROR) return status;
-  NoteData data;
-  status = ProDtlnoteDataGet(&note, nullptr, PRODISPMODE_NUMERIC, data.Out());
-  if (status != PRO_TK_NO_ERROR) return status;
-  HostArray<ProDtlnoteline> lines;
-  status = ProDtlnotedataLinesCollect(data.Get(), lines.Out());
+  CellNote note;
+  ProError status = note.Open(table, row, column);
   if (status != PRO_TK_NO_ERROR) return status;
   status = PRO_TK_E_NOT_FOUND;
+  HostArray<ProDtlnoteline>& lines = note.Lines();
   for (int l = 0; l < lines.Size(); ++l) {
     HostArray<ProDtlnotetext> texts;
     if (ProDtlnotelineTextsCollect(lines[l], texts.Out()) != PRO_TK_NO_ERROR) continue;
@@ -196,23 +205,17 @@ int CTkDrwTable::GetTableCellTextWidth(ProDwgtable& table, int row, int column, 
 }
 
 int CTkDrwTable::SetTableCellTextWidth(ProDwgtable& table, int row, int column, double width) const {
-  ProDtlnote note{};
-  ProError status = ProDwgtableCellNoteGet(&table, column, row, &note);
+  CellNote note;
+  ProError status = note.Open(table, row, column);
   if (status != PRO_TK_NO_ERROR) return status;
-  NoteData data;
-  status = ProDtlnoteDataGet(&note, nullptr, PRODISPMODE_NUMERIC, data.Out());
-  if (status != PRO_TK_NO_ERROR) return status;
-  HostArray<ProDtlnoteline> lines;
-  status = ProDtlnotedataLinesCollect(data.Get(), lines.Out());
-  if (status != PRO_TK_NO_ERROR) return status;
+  HostArray<ProDtlnoteline>& lines = note.Lines();
   for (int l = 0; l < lines.Size(); ++l) {
     HostArray<ProDtlnotetext> texts;
     if (ProDtlnotelineTextsCollect(lines[l], texts.Out()) != PRO_TK_NO_ERROR) continue;
     for (int t = 0; t < texts.Size(); ++t) ProDtlnotetextWidthSet(texts[t], width);
     ProDtlnotelineTextsSet(lines[l], texts.Data());
   }
-  ProDtlnoteldataLinesSet(data.Get(), lines.Data());
-  ProDtlnoteModify(&note, nullptr, data.Get());
+  note.Modify();
   return 0;
 }
 

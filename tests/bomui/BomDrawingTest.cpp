@@ -19,6 +19,7 @@
 #include "MessageBox.h"
 #include "ModelFile.h"
 #include "PluginHost.h"
+#include "SavedTable.h"
 #include "ProMdl.h"
 
 namespace fs = std::filesystem;
@@ -90,23 +91,6 @@ class BomDrawingTest : public testing::Test {
     EXPECT_TRUE(def.has_value());
     return def ? def->tables : std::vector<sim::TableDef>{};
   }
-  static std::optional<std::vector<std::wstring>> Lines(const sim::TableDef& table, int row, int column) {
-    auto cell = std::find_if(table.cells.begin(), table.cells.end(),
-                             [&](const sim::CellDef& c) { return c.row == row && c.column == column; });
-    if (cell == table.cells.end()) return std::nullopt;
-    std::vector<std::wstring> lines;
-    for (const auto& texts : cell->lines) {
-      std::wstring line;
-      for (const auto& text : texts) line += text.text;
-      lines.push_back(line);
-    }
-    return lines;
-  }
-  static double Height(const sim::TableDef& table) {
-    double sum = 0;
-    for (double row : table.rows) sum += row;
-    return sum;
-  }
   std::vector<std::wstring> ShownColumnNames() const {
     std::vector<ColInfo> cols;
     CCfgOption().GetColInfos(cols);
@@ -142,12 +126,12 @@ TEST_F(BomDrawingTest, TableStandsOnThePickedPointWithTheHeaderOnTopAndTheChecke
   ASSERT_EQ(static_cast<int>(table.rows.size()), list->GetItemCount());
   std::vector<std::wstring> names = ShownColumnNames();
   for (int col = 0; col < columns; ++col) {
-    EXPECT_EQ(Lines(table, 1, col + 1), std::vector<std::wstring>{names[col]});
-    EXPECT_EQ(Lines(table, 2, col + 1), std::vector<std::wstring>{L"行0列" + std::to_wstring(col)});
-    EXPECT_EQ(Lines(table, 3, col + 1), std::vector<std::wstring>{L"行2列" + std::to_wstring(col)});
+    EXPECT_EQ(CellLines(table, 1, col + 1), std::vector<std::wstring>{names[col]});
+    EXPECT_EQ(CellLines(table, 2, col + 1), std::vector<std::wstring>{L"行0列" + std::to_wstring(col)});
+    EXPECT_EQ(CellLines(table, 3, col + 1), std::vector<std::wstring>{L"行2列" + std::to_wstring(col)});
   }
   EXPECT_DOUBLE_EQ(table.origin[0], 120);
-  EXPECT_DOUBLE_EQ(table.origin[1] - Height(table), 80);
+  EXPECT_DOUBLE_EQ(table.origin[1] - TableHeight(table), 80);
   EXPECT_TRUE(prompts.empty());
 }
 
@@ -161,8 +145,8 @@ TEST_F(BomDrawingTest, NarrowColumnsGetWidthOneEmptyCellsNoTextAndLineFeedsSever
   ASSERT_EQ(tables.size(), 1u);
   EXPECT_DOUBLE_EQ(tables[0].columns[1].width, tables[0].charWidth);
   EXPECT_DOUBLE_EQ(tables[0].columns[2].width, tables[0].charWidth);
-  EXPECT_EQ(Lines(tables[0], 2, 2), std::nullopt);
-  EXPECT_EQ(Lines(tables[0], 2, 3), (std::vector<std::wstring>{L"上", L"下"}));
+  EXPECT_EQ(CellLines(tables[0], 2, 2), std::nullopt);
+  EXPECT_EQ(CellLines(tables[0], 2, 3), (std::vector<std::wstring>{L"上", L"下"}));
 }
 
 TEST_F(BomDrawingTest, NothingCheckedDrawsTheHeaderAloneLiftedByItsOneRow) {

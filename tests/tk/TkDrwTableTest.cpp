@@ -9,6 +9,7 @@
 #include "HostControl.h"
 #include "ModelFile.h"
 #include "PluginHost.h"
+#include "SavedTable.h"
 #include "ProMdl.h"
 #include "TkDrwTable.h"
 
@@ -35,19 +36,6 @@ class TkDrwTableTest : public testing::Test {
     std::optional<sim::ModelDef> def = sim::ReadModelFile(dir_.path() / "work" / "plan.drw.2");
     EXPECT_TRUE(def && def->tables.size() == 1);
     return def && !def->tables.empty() ? def->tables.front() : sim::TableDef{};
-  }
-  // The texts of the cell's lines; nullopt for a cell without note.
-  static std::optional<std::vector<std::wstring>> Lines(const sim::TableDef& table, int row, int column) {
-    auto cell = std::find_if(table.cells.begin(), table.cells.end(),
-                             [&](const sim::CellDef& c) { return c.row == row && c.column == column; });
-    if (cell == table.cells.end()) return std::nullopt;
-    std::vector<std::wstring> lines;
-    for (const auto& texts : cell->lines) {
-      std::wstring line;
-      for (const auto& text : texts) line += text.text;
-      lines.push_back(line);
-    }
-    return lines;
   }
   static int Calls(const std::string& name) {
     auto log = sim::CallLog();
@@ -79,8 +67,8 @@ TEST_F(TkDrwTableTest, CreatedTableHoldsTheHeaderRowWithItsColumnWidthsAtTheOrig
   EXPECT_DOUBLE_EQ(table.rows[0], table.charHeight);
   EXPECT_DOUBLE_EQ(table.origin[0], 100);
   EXPECT_DOUBLE_EQ(table.origin[1], 50);
-  EXPECT_EQ(Lines(table, 1, 1), (std::vector<std::wstring>{L"序号"}));
-  EXPECT_EQ(Lines(table, 1, 2), (std::vector<std::wstring>{L"名称", L"规格"}));
+  EXPECT_EQ(CellLines(table, 1, 1), (std::vector<std::wstring>{L"序号"}));
+  EXPECT_EQ(CellLines(table, 1, 2), (std::vector<std::wstring>{L"名称", L"规格"}));
 }
 
 TEST_F(TkDrwTableTest, RowsKeepBlankCellsEmptyAndEmptyMiddleLinesAsABlank) {
@@ -89,9 +77,9 @@ TEST_F(TkDrwTableTest, RowsKeepBlankCellsEmptyAndEmptyMiddleLinesAsABlank) {
   EXPECT_EQ(drw_.AddTableRow(table, 1.0, {L"1", L"   ", L"上\n\n下"}, 0, 0.0, -1), 0);
   sim::TableDef saved = Saved(drawing);
   ASSERT_EQ(saved.rows.size(), 2u);
-  EXPECT_EQ(Lines(saved, 2, 1), (std::vector<std::wstring>{L"1"}));
-  EXPECT_EQ(Lines(saved, 2, 2), std::nullopt);
-  EXPECT_EQ(Lines(saved, 2, 3), (std::vector<std::wstring>{L"上", L" ", L"下"}));
+  EXPECT_EQ(CellLines(saved, 2, 1), (std::vector<std::wstring>{L"1"}));
+  EXPECT_EQ(CellLines(saved, 2, 2), std::nullopt);
+  EXPECT_EQ(CellLines(saved, 2, 3), (std::vector<std::wstring>{L"上", L" ", L"下"}));
 }
 
 TEST_F(TkDrwTableTest, PositionOneAddsTheFirstRowAndBelowOneAppends) {
@@ -102,10 +90,10 @@ TEST_F(TkDrwTableTest, PositionOneAddsTheFirstRowAndBelowOneAppends) {
   drw_.AddTableRow(table, 1.0, {L"尾"}, 0, 0.0, 0);
   sim::TableDef saved = Saved(drawing);
   ASSERT_EQ(saved.rows.size(), 4u);
-  EXPECT_EQ(Lines(saved, 1, 1), (std::vector<std::wstring>{L"首"}));
-  EXPECT_EQ(Lines(saved, 2, 1), (std::vector<std::wstring>{L"头"}));
-  EXPECT_EQ(Lines(saved, 3, 1), (std::vector<std::wstring>{L"末"}));
-  EXPECT_EQ(Lines(saved, 4, 1), (std::vector<std::wstring>{L"尾"}));
+  EXPECT_EQ(CellLines(saved, 1, 1), (std::vector<std::wstring>{L"首"}));
+  EXPECT_EQ(CellLines(saved, 2, 1), (std::vector<std::wstring>{L"头"}));
+  EXPECT_EQ(CellLines(saved, 3, 1), (std::vector<std::wstring>{L"末"}));
+  EXPECT_EQ(CellLines(saved, 4, 1), (std::vector<std::wstring>{L"尾"}));
 }
 
 TEST_F(TkDrwTableTest, HeightInTheOtherUnitIsDividedByTheFixedFactor) {

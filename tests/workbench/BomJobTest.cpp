@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "ModelFile.h"
+#include "SavedTable.h"
 #include "TestDir.h"
 
 namespace fs = std::filesystem;
@@ -136,10 +137,8 @@ TEST_F(BomJobTest, DrawingGetsTheTableAtThePickedPointAndIsSavedIntoTheWorkDirec
   ASSERT_EQ(drawing->tables.size(), 1u);
   const sim::TableDef& table = drawing->tables[0];
   EXPECT_EQ(table.rows.size(), RowCount("single") + 1);
-  double height = 0;
-  for (double row : table.rows) height += row;
   EXPECT_DOUBLE_EQ(table.origin[0], 300);
-  EXPECT_DOUBLE_EQ(table.origin[1], 120 + height);
+  EXPECT_DOUBLE_EQ(table.origin[1], 120 + TableHeight(table));
 }
 
 TEST_F(BomJobTest, BadOptionsAndAPartAsCurrentModelAreRefused) {
