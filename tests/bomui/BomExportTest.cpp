@@ -241,7 +241,7 @@ TEST_F(BomExportTest, WithoutCurrentModelOnlyTheTextIsWritten) {
   EXPECT_TRUE(fs::exists(dir.path() / "out" / "清单.txt"));
 }
 
-TEST_F(BomExportTest, TextHoldsTheHeaderAndTheCheckedRowsByteForByte) {
+TEST_F(BomExportTest, TextHoldsTheHeaderAndTheCheckedRowsByteForByteAndOnlyTheHeaderWithNoneChecked) {
   Open();
   list->SetItemText(0, 0, L"");
   list->SetItemText(0, 1, L"1");
@@ -260,11 +260,9 @@ TEST_F(BomExportTest, TextHoldsTheHeaderAndTheCheckedRowsByteForByte) {
   EXPECT_EQ(dir.Read("out/清单.txt"), platform::ToNarrow(expected));
   EXPECT_EQ(prompts, std::vector<std::wstring>{L"提示:是否打开：" + TextPath() + L" ？"});
   EXPECT_EQ(opened, std::vector<std::wstring>{TextPath()});
-}
 
-TEST_F(BomExportTest, TextWithNothingCheckedHoldsTheHeaderLineOnly) {
-  Open();
-  for (int row = 0; row < list->GetItemCount(); ++row) list->SetCheck(row, false);
+  list->SetCheck(0, false);
+  list->SetCheck(1, false);
   Press(false, true);
   EXPECT_EQ(dir.Read("out/清单.txt"), "序号\t层级\t图号\t名称\t数量\t材料\t重量\t总重\t备注\t模型名称\t\r\n");
   EXPECT_FALSE(fs::exists(dir.path() / "out" / "Excel"));

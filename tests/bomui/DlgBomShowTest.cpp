@@ -257,7 +257,7 @@ TEST_F(DlgBomShowTest, FilterSchemeChangeRecollects) {
   EXPECT_EQ(RowOfModel(L"HOUSING"), -1);
 }
 
-TEST_F(DlgBomShowTest, InListFilterIncludeKeepsTheCheckedValues) {
+TEST_F(DlgBomShowTest, InListFilterIncludeKeepsTheCheckedValuesAndExcludeTakesThemOut) {
   Open();
   int count = list->GetItemCount();
   std::wstring housingName = list->GetItemText(RowOfModel(L"HOUSING"), kColName);
@@ -269,12 +269,7 @@ TEST_F(DlgBomShowTest, InListFilterIncludeKeepsTheCheckedValues) {
   Child<QComboBox>("FilterCombo")->setCurrentIndex(1);
   Child<QComboBox>("FilterCombo")->setCurrentIndex(0);
   EXPECT_EQ(list->GetItemCount(), count);
-}
 
-TEST_F(DlgBomShowTest, InListFilterExcludeTakesOutTheCheckedValues) {
-  Open();
-  int count = list->GetItemCount();
-  std::wstring housingName = list->GetItemText(RowOfModel(L"HOUSING"), kColName);
   RunInListFilter(0, false, {housingName});
   EXPECT_EQ(list->GetItemCount(), count - 1);
   EXPECT_EQ(RowOfModel(L"HOUSING"), -1);

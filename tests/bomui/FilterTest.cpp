@@ -44,19 +44,15 @@ TEST(FilterRules, ColumnValuesAreDistinctWithCaseInOrderOfFirstAppearance) {
   EXPECT_EQ(data.values, (std::vector<std::wstring>{L"b", L"a", L"A", L""}));
 }
 
-TEST(FilterRules, IncludeTakesOutTheUncheckedExcludeTheChecked) {
+TEST(FilterRules, IncludeTakesOutTheUncheckedExcludeTheCheckedAndNothingOrAllCheckedNothing) {
   FilterData column = CollectColumnValues(1, {L"x", L"y", L"z"});
   EXPECT_EQ(MakeFilterResult(column, {true, false, true}, true).values, (std::vector<std::wstring>{L"y"}));
   EXPECT_EQ(MakeFilterResult(column, {true, false, true}, false).values,
             (std::vector<std::wstring>{L"x", L"z"}));
-}
-
-TEST(FilterRules, NothingCheckedOrAllCheckedUnderIncludeRemovesNothing) {
-  FilterData column = CollectColumnValues(1, {L"x", L"y"});
-  EXPECT_TRUE(MakeFilterResult(column, {false, false}, true).values.empty());
-  EXPECT_TRUE(MakeFilterResult(column, {false, false}, false).values.empty());
-  EXPECT_TRUE(MakeFilterResult(column, {true, true}, true).values.empty());
-  EXPECT_EQ(MakeFilterResult(column, {false, false}, true).col, 1);
+  EXPECT_TRUE(MakeFilterResult(column, {false, false, false}, true).values.empty());
+  EXPECT_TRUE(MakeFilterResult(column, {false, false, false}, false).values.empty());
+  EXPECT_TRUE(MakeFilterResult(column, {true, true, true}, true).values.empty());
+  EXPECT_EQ(MakeFilterResult(column, {false, false, false}, true).col, 1);
 }
 
 TEST(FilterRules, RemovalComparesUpperCasedTexts) {
@@ -147,16 +143,11 @@ TEST_F(FilterDialogTest, FilterDialogGivesTheValuesToTakeOut) {
   EXPECT_TRUE(prompts.empty());
 }
 
-TEST_F(FilterDialogTest, ToolWithoutSchemeLetsEveryModelPass) {
-  ProMdl standard = host.AddPart(L"GB_BOLT");
-  CFilterAPI api;
-  EXPECT_EQ(api.GetCurPrj(L"MatTool"), L"");
-  EXPECT_NE(api.IsShowMdl(standard, L"MatTool"), 0);
-}
-
 TEST_F(FilterDialogTest, EachToolKeepsItsOwnCurrentScheme) {
   ProMdl standard = host.AddPart(L"GB_BOLT");
   ProMdl own = host.AddPart(L"SHAFT");
+  EXPECT_EQ(CFilterAPI().GetCurPrj(L"MatTool"), L"") << "no scheme: every model passes";
+  EXPECT_NE(CFilterAPI().IsShowMdl(standard, L"MatTool"), 0);
   CToolFilterStore store;
   store.SetCurrentNumber(L"MatTool", 1);
   store.SetCurrentNumber(L"RelationTool", 2);

@@ -1,4 +1,4 @@
-// The control API's scripting: failures, the call log, chooser answers, and
+// The control API's scripting: failures, the call log, and
 // callbacks that call back into the toolkit from another thread.
 #include "CallLog.h"
 #include "FaultInjection.h"
@@ -62,16 +62,6 @@ TEST_F(SimControl, CallLogKeepsCallsInOrderWithTheirKeyArguments) {
                             }));
   sim::ClearCallLog();
   EXPECT_TRUE(sim::CallLog().empty());
-}
-
-TEST_F(SimControl, ChooserAnswersQueuePerCallAndRunOutAsCancel) {
-  sim::PushAnswer("ProDirectoryChoose", L"/a");
-  sim::PushAnswer("ProDirectoryChoose", std::nullopt);
-  sim::PushAnswer("ProFileMdlfiletypeOpen", L"b.prt");
-  EXPECT_EQ(sim::TakeAnswer("ProDirectoryChoose"), L"/a");
-  EXPECT_EQ(sim::TakeAnswer("ProFileMdlfiletypeOpen"), L"b.prt");
-  EXPECT_EQ(sim::TakeAnswer("ProDirectoryChoose"), std::nullopt);
-  EXPECT_EQ(sim::TakeAnswer("ProDirectoryChoose"), std::nullopt);
 }
 
 // The plug-in's worker thread calls the toolkit while the thread of the

@@ -67,17 +67,15 @@ TEST_F(SimFeatures, FilterContinueSkipsAndAnyOtherAnswerReachesTheVisit) {
             (std::vector<std::pair<int, ProError>>{{1, PRO_TK_NO_ERROR}, {5, PRO_TK_GENERAL_ERROR}}));
 }
 
-TEST_F(SimFeatures, VisitAnswerOtherThanNoErrorStopsTheWalkAndIsReturned) {
+TEST_F(SimFeatures, VisitAnswerOtherThanNoErrorStopsTheWalkAndNothingVisitedIsNotFound) {
+  ProSolid assembly = Assembly();
   Walk walk;
   walk.stopAt = 3;
-  EXPECT_EQ(Run(Assembly(), walk), PRO_TK_USER_ABORT);
+  EXPECT_EQ(Run(assembly, walk), PRO_TK_USER_ABORT);
   EXPECT_EQ(walk.visited.size(), 2u);
-}
-
-TEST_F(SimFeatures, NothingReachingTheVisitIsNotFound) {
   Walk skipAll;
   skipAll.filter = [](int) { return PRO_TK_CONTINUE; };
-  EXPECT_EQ(Run(Assembly(), skipAll), PRO_TK_E_NOT_FOUND);
+  EXPECT_EQ(Run(assembly, skipAll), PRO_TK_E_NOT_FOUND);
   Walk plain;
   EXPECT_EQ(Run(static_cast<ProSolid>(sim::AddModel(L"bare.prt", {})), plain), PRO_TK_E_NOT_FOUND);
 }

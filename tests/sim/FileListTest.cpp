@@ -1,5 +1,4 @@
-// Directory listings, model file names and the host's choosers.
-#include "HostControl.h"
+// Directory listings and model file names.
 #include "ProArray.h"
 #include "ProUtil.h"
 #include "SimTest.h"
@@ -105,25 +104,6 @@ TEST_F(SimFileList, ParseSplitsDirectoryNameExtensionAndVersion) {
   ASSERT_EQ(ProFileMdlnameParse(inSession, directory, name, nullptr, nullptr), PRO_TK_NO_ERROR);
   EXPECT_STREQ(directory, L"insession:");
   EXPECT_STREQ(name, L"\\bolt");
-}
-
-TEST_F(SimFileList, ChoosersAnswerFromTheScriptAndCancelWithoutOne) {
-  sim::PushAnswer("ProDirectoryChoose", L"/chosen/dir");
-  sim::PushAnswer("ProDirectoryChoose", std::nullopt);
-  ProPath start{L"/start"};
-  ProPath selected{};
-  EXPECT_EQ(ProDirectoryChoose(nullptr, nullptr, nullptr, start, selected), PRO_TK_NO_ERROR);
-  EXPECT_STREQ(selected, L"/chosen/dir");
-  EXPECT_EQ(ProDirectoryChoose(nullptr, nullptr, nullptr, start, selected), PRO_TK_USER_ABORT);
-  EXPECT_EQ(ProDirectoryChoose(nullptr, nullptr, nullptr, start, selected), PRO_TK_USER_ABORT);
-
-  sim::PushAnswer("ProFileMdlfiletypeOpen", L"/w/a.prt.3");
-  ProMdlFileName preselected{L"*.prt"};
-  EXPECT_EQ(ProFileMdlfiletypeOpen(nullptr, nullptr, nullptr, nullptr, start, preselected, selected),
-            PRO_TK_NO_ERROR);
-  EXPECT_STREQ(selected, L"/w/a.prt.3");
-  EXPECT_EQ(ProFileMdlfiletypeOpen(nullptr, nullptr, nullptr, nullptr, start, preselected, selected),
-            PRO_TK_USER_ABORT);
 }
 
 }  // namespace

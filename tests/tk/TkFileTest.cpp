@@ -110,19 +110,17 @@ TEST_F(TkFileHostTest, ChooseMdlFileAnswersTheOriginOfAModelPickedInSession) {
   EXPECT_EQ(file_.ChooseMdlFile(L"*.prt", L"", 1), L"");
 }
 
-TEST_F(TkFileHostTest, DelFileToTheTrashLosesNothing) {
+TEST_F(TkFileHostTest, DelFileToTheTrashLosesNothingAndPermanentDeletionBypassesIt) {
   dir_.Write("work/old.prt.1", "version one");
   ASSERT_EQ(file_.FileExists(Work("OLD.prt.1")), 1);
   EXPECT_EQ(file_.DelFile(Work("old.prt.1"), 0), 1);
   EXPECT_EQ(file_.FileExists(Work("old.prt.1")), 0);
   ASSERT_TRUE(trash_.Restore("old.prt.1"));
   EXPECT_EQ(dir_.Read("work/old.prt.1"), "version one");
-}
 
-TEST_F(TkFileHostTest, DelFileOfNothingIsZeroAndPermanentDeletionBypassesTheTrash) {
   EXPECT_EQ(file_.DelFile(Work("missing.prt"), 0), 0);
   dir_.Write("work/gone.txt", "x");
-  EXPECT_EQ(file_.DelFile(Work("gone.txt"), 1), 1);
+  EXPECT_EQ(file_.DelFile(Work("gone.txt"), 1), 1) << "permanent: past the trash";
   EXPECT_EQ(file_.FileExists(Work("gone.txt")), 0);
   EXPECT_TRUE(trash_.Names().empty());
 }

@@ -91,9 +91,12 @@ TEST_F(TkModelFilesTest, AModelWithoutFileHasVersionZeroAndLosesNothing) {
   EXPECT_TRUE(trash_.Names().empty());
 }
 
-TEST_F(TkModelFilesTest, SaveMdlAllOfAPartSavesOnceAndClearsTheOlderVersions) {
+TEST_F(TkModelFilesTest, SaveMdlAllOfAPartSavesOnceAndClearsTheOlderVersionsUnlessTheSaveFails) {
   WriteVersions("shaft.prt", 2, Part());
   ProMdl shaft = Open(L"shaft.prt");
+  sim::FailCall("ProMdlSave", PRO_TK_CANT_WRITE, sim::Times::Once);
+  EXPECT_EQ(model_.SaveMdlAll(shaft), PRO_TK_CANT_WRITE);
+  EXPECT_TRUE(trash_.Names().empty());
   sim::ClearCallLog();
   EXPECT_EQ(model_.SaveMdlAll(shaft), 0);
   EXPECT_EQ(Count("ProMdlSave"), 1);
@@ -113,14 +116,6 @@ TEST_F(TkModelFilesTest, SaveMdlAllSavesEachOccurrenceOfAnAssembly) {
     EXPECT_TRUE(Exists(std::string("work/") + kept));
   for (const char* gone : {"top.asm.2", "sub.asm.1", "bolt.prt.1", "bolt.prt.2"})
     EXPECT_FALSE(Exists(std::string("work/") + gone)) << gone;
-}
-
-TEST_F(TkModelFilesTest, SaveMdlAllStopsAtAFailedSave) {
-  WriteVersions("shaft.prt", 2, Part());
-  ProMdl shaft = Open(L"shaft.prt");
-  sim::FailCall("ProMdlSave", PRO_TK_CANT_WRITE, sim::Times::Once);
-  EXPECT_EQ(model_.SaveMdlAll(shaft), PRO_TK_CANT_WRITE);
-  EXPECT_TRUE(trash_.Names().empty());
 }
 
 TEST_F(TkModelFilesTest, BackupWithCleanupKeepsTheCurrentVersionInTheDirectory) {

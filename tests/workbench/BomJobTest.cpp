@@ -2,52 +2,20 @@
 // its controls set from the options and "输出" pressed, with no display.
 #include <gtest/gtest.h>
 
-#include <cstdio>
 #include <filesystem>
-#include <sstream>
-#include <string>
-#include <vector>
 
+#include "JobRun.h"
 #include "ModelFile.h"
 #include "SavedTable.h"
-#include "TestDir.h"
 
 namespace fs = std::filesystem;
 
 namespace {
 
-struct JobRun {
-  int exitCode = -1;
-  std::vector<std::string> lines;  // standard output
-  std::string err;
-};
-
-std::vector<std::string> Lines(const std::string& text) {
-  std::vector<std::string> lines;
-  std::istringstream in(text);
-  for (std::string line; std::getline(in, line);) lines.push_back(line);
-  return lines;
-}
-
 class BomJobTest : public testing::Test {
  protected:
   JobRun Run(const std::string& job, const std::string& arguments) {
-    auto root = dir_.path() / "app";
-    if (!fs::exists(root)) fs::copy(BOM_STAGE_DIR, root, fs::copy_options::recursive);
-    fs::path errFile = dir_.path() / "stderr.txt";
-    std::string command = "env -u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM " +
-                          std::string(BOM_WORKBENCH) + " " + job + " --workdir '" + Work().string() +
-                          "' --plugin-root '" + root.string() + "' " + arguments + " 2>'" + errFile.string() +
-                          "'";
-    JobRun run;
-    std::string out;
-    FILE* pipe = popen(command.c_str(), "r");
-    char buffer[4096];
-    while (size_t n = fread(buffer, 1, sizeof buffer, pipe)) out.append(buffer, n);
-    run.exitCode = WEXITSTATUS(pclose(pipe));
-    run.lines = Lines(out);
-    run.err = dir_.Read("stderr.txt");
-    return run;
+    return RunJob(dir_, job, arguments, "env -u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM");
   }
   JobRun Bom(const std::string& arguments) { return Run("bom", arguments); }
   // The number of rows of a list as the rows job collects it.
@@ -56,7 +24,7 @@ class BomJobTest : public testing::Test {
   fs::path Out() const { return dir_.path() / "out"; }
   std::string OutOption() const { return "--out '" + Out().string() + "/'"; }
   std::vector<std::string> TextLines(const fs::path& file) const {
-    return Lines(dir_.Read(fs::relative(file, dir_.path()).string()));
+    return SplitLines(dir_.Read(fs::relative(file, dir_.path()).string()));
   }
 
   TestDir dir_;

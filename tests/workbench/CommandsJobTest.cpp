@@ -2,48 +2,22 @@
 // points into the sample session.
 #include <gtest/gtest.h>
 
-#include <cstdio>
 #include <filesystem>
 #include <map>
-#include <sstream>
 
-#include "TestDir.h"
+#include "JobRun.h"
 
 namespace {
 
-struct JobRun {
-  int exitCode = -1;
-  std::string out;
-};
-
 class CommandsJobTest : public testing::Test {
  protected:
-  JobRun Workbench(const std::string& arguments) {
-    std::string command = std::string(BOM_WORKBENCH) + " commands --workdir '" +
-                          (dir_.path() / "work").string() + "' --plugin-root '" + PluginRoot() + "' " +
-                          arguments + " 2>&1";
-    JobRun run;
-    FILE* pipe = popen(command.c_str(), "r");
-    char buffer[4096];
-    while (size_t n = fread(buffer, 1, sizeof buffer, pipe)) run.out.append(buffer, n);
-    run.exitCode = WEXITSTATUS(pclose(pipe));
-    return run;
-  }
-
-  // A copy of the staged installation: the job writes the work directory back.
-  std::string PluginRoot() {
-    auto root = dir_.path() / "app";
-    if (!std::filesystem::exists(root))
-      std::filesystem::copy(BOM_STAGE_DIR, root, std::filesystem::copy_options::recursive);
-    return root.string();
-  }
+  JobRun Workbench(const std::string& arguments) { return RunJob(dir_, "commands", arguments); }
 
   std::map<std::string, std::string> Availability(const std::string& arguments) {
     JobRun run = Workbench(arguments);
-    EXPECT_EQ(run.exitCode, 0) << run.out;
+    EXPECT_EQ(run.exitCode, 0) << run.err;
     std::map<std::string, std::string> states;
-    std::istringstream lines(run.out);
-    for (std::string line; std::getline(lines, line);) {
+    for (const std::string& line : run.lines) {
       size_t tab = line.find('\t');
       if (line.rfind("Cmd", 0) == 0 && tab != std::string::npos)
         states[line.substr(0, tab)] = line.substr(tab + 1);
@@ -58,13 +32,12 @@ class CommandsJobTest : public testing::Test {
 
 TEST_F(CommandsJobTest, SampleAssemblyOffersEveryCommandAndShowsThePluginsMenus) {
   JobRun run = Workbench("");
-  ASSERT_EQ(run.exitCode, 0) << run.out;
+  ASSERT_EQ(run.exitCode, 0) << run.err;
   EXPECT_NE(run.out.find("menu BOMMenubarId\tBOM工具"), std::string::npos) << run.out;
   EXPECT_NE(run.out.find("  button BOMShowMenuBtnID\t零件清单显示\t-> CmdBOMShowId"), std::string::npos);
   EXPECT_NE(run.out.find("  button SPLMenuBtnId\t标准件库\t-> CmdSPLId"), std::string::npos);
-  std::istringstream lines(run.out);
   int commands = 0;
-  for (std::string line; std::getline(lines, line);) {
+  for (const std::string& line : run.lines) {
     if (line.rfind("Cmd", 0) == 0) {
       ++commands;
       EXPECT_NE(line.find("\tavailable"), std::string::npos) << line;
@@ -102,10 +75,10 @@ TEST_F(CommandsJobTest, HostStartWritesTheTrailAndExitStoresTheWorkDirectory) {
 TEST_F(CommandsJobTest, BadInputIsRefusedWithAReason) {
   JobRun unknownModel = Workbench("--current nothing.prt");
   EXPECT_EQ(unknownModel.exitCode, 1);
-  EXPECT_NE(unknownModel.out.find("nothing.prt"), std::string::npos);
+  EXPECT_NE(unknownModel.all().find("nothing.prt"), std::string::npos);
   JobRun badOption = Workbench("--colour red");
   EXPECT_EQ(badOption.exitCode, 2);
-  EXPECT_NE(badOption.out.find("usage:"), std::string::npos);
+  EXPECT_NE(badOption.all().find("usage:"), std::string::npos);
   JobRun noSession = Workbench("--session '" + (dir_.path() / "none").string() + "'");
   EXPECT_EQ(noSession.exitCode, 1);
 }

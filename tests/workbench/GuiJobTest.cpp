@@ -2,11 +2,10 @@
 // command beside the host's window and saved as a picture.
 #include <gtest/gtest.h>
 
-#include <cstdio>
 #include <filesystem>
 #include <fstream>
 
-#include "TestDir.h"
+#include "JobRun.h"
 
 namespace {
 
@@ -30,14 +29,9 @@ PngSize ReadPngSize(const std::filesystem::path& file) {
 
 class GuiJobTest : public testing::Test {
  protected:
+  // The other jobs run without a display; this one is given the offscreen one.
   int Workbench(const std::string& arguments) {
-    auto root = dir_.path() / "app";
-    std::filesystem::copy(BOM_STAGE_DIR, root, std::filesystem::copy_options::recursive);
-    // The other jobs run without a display; this one is given the offscreen one.
-    std::string command = "QT_QPA_PLATFORM=offscreen " + std::string(BOM_WORKBENCH) + " gui --workdir '" +
-                          (dir_.path() / "work").string() + "' --plugin-root '" + root.string() + "' " +
-                          arguments + " > /dev/null 2>&1";
-    return WEXITSTATUS(std::system(command.c_str()));
+    return RunJob(dir_, "gui", arguments, "QT_QPA_PLATFORM=offscreen").exitCode;
   }
 
   TestDir dir_;

@@ -10,6 +10,8 @@
 #include <QTimer>
 #include <QTreeWidget>
 
+#include <functional>
+
 #include "HostChoosers.h"
 #include "HostControl.h"
 #include "MainWindow.h"
@@ -41,6 +43,18 @@ class MainWindowTest : public testing::Test {
   }
 
   QAction* Action(const char* name) const { return window->findChild<QAction*>(name); }
+  // Runs `step` on the next modal window named `name` (any with ""), once it shows.
+  static void WhenModal(const QString& name, std::function<void(QWidget*)> step) {
+    auto* poll = new QTimer;
+    QObject::connect(poll, &QTimer::timeout, [=] {
+      QWidget* dialog = QApplication::activeModalWidget();
+      if (!dialog || (!name.isEmpty() && dialog->objectName() != name)) return;
+      poll->stop();
+      poll->deleteLater();
+      step(dialog);
+    });
+    poll->start(5);
+  }
 
   TestDir dir_;
   PluginHost host_{dir_};
@@ -101,18 +115,14 @@ TEST_F(MainWindowTest, HostChooserAsksInAFileDialog) {
   std::filesystem::path chosen = dir_.path() / "out";
   std::filesystem::create_directories(chosen);
   QString caption;
-  auto* poll = new QTimer;
-  QObject::connect(poll, &QTimer::timeout, [&, poll] {
-    auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-    if (!dialog) return;
-    poll->stop();
-    poll->deleteLater();
+  WhenModal("", [&](QWidget* widget) {
+    auto* dialog = qobject_cast<QFileDialog*>(widget);
+    ASSERT_NE(dialog, nullptr);
     caption = dialog->windowTitle();
     dialog->setDirectory(QString::fromStdString(chosen.string()));
     dialog->selectFile(QString::fromStdString(chosen.string()));
     QMetaObject::invokeMethod(dialog, "accept");
   });
-  poll->start(5);
   ProName label = L"选择目录";
   ProPath start{};
   ProPath selected{};
@@ -126,18 +136,12 @@ TEST_F(MainWindowTest, HostChooserAsksInAFileDialog) {
 TEST_F(MainWindowTest, MousePickIsAskedAsAPointUnderTheHostsPrompt) {
   InstallHostChoosers();
   QString prompt;
-  auto* poll = new QTimer;
-  QObject::connect(poll, &QTimer::timeout, [&, poll] {
-    QWidget* dialog = QApplication::activeModalWidget();
-    if (!dialog || dialog->objectName() != "PickPointDialog") return;
-    poll->stop();
-    poll->deleteLater();
+  WhenModal("PickPointDialog", [&](QWidget* dialog) {
     prompt = dialog->findChild<QLabel*>("PickPrompt")->text();
     dialog->findChild<QDoubleSpinBox*>("PickX")->setValue(12.5);
     dialog->findChild<QDoubleSpinBox*>("PickY")->setValue(-40);
     QMetaObject::invokeMethod(dialog, "accept");
   });
-  poll->start(5);
   ProFileName file = L"BOMMsg.txt";
   ProMessageDisplay(file, const_cast<char*>("please select a pos for placing table"));
   ProMouseButton pressed = PRO_NO_BUTTON;

@@ -3,38 +3,15 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdio>
-#include <filesystem>
-#include <sstream>
 #include <vector>
 
-#include "TestDir.h"
+#include "JobRun.h"
 
 namespace {
 
-struct JobRun {
-  int exitCode = -1;
-  std::vector<std::string> lines;
-  std::string all;
-};
-
 class RowsJobTest : public testing::Test {
  protected:
-  JobRun Rows(const std::string& arguments) {
-    auto root = dir_.path() / "app";
-    if (!std::filesystem::exists(root))
-      std::filesystem::copy(BOM_STAGE_DIR, root, std::filesystem::copy_options::recursive);
-    std::string command = std::string(BOM_WORKBENCH) + " rows --workdir '" + (dir_.path() / "work").string() +
-                          "' --plugin-root '" + root.string() + "' " + arguments + " 2>&1";
-    JobRun run;
-    FILE* pipe = popen(command.c_str(), "r");
-    char buffer[4096];
-    while (size_t n = fread(buffer, 1, sizeof buffer, pipe)) run.all.append(buffer, n);
-    run.exitCode = WEXITSTATUS(pclose(pipe));
-    std::istringstream lines(run.all);
-    for (std::string line; std::getline(lines, line);) run.lines.push_back(line);
-    return run;
-  }
+  JobRun Rows(const std::string& arguments) { return RunJob(dir_, "rows", arguments); }
 
   TestDir dir_;
 };
@@ -43,7 +20,7 @@ class RowsJobTest : public testing::Test {
 
 TEST_F(RowsJobTest, SingleLevelListsTheDirectComponentsOnceEach) {
   JobRun run = Rows("--level single");
-  ASSERT_EQ(run.exitCode, 0) << run.all;
+  ASSERT_EQ(run.exitCode, 0) << run.all();
   EXPECT_EQ(
       run.lines,
       (std::vector<std::string>{
@@ -54,8 +31,8 @@ TEST_F(RowsJobTest, SingleLevelListsTheDirectComponentsOnceEach) {
 
 TEST_F(RowsJobTest, MultiLevelShowsTheTreeWithOutlineNumbers) {
   JobRun run = Rows("--level multi");
-  ASSERT_EQ(run.exitCode, 0) << run.all;
-  ASSERT_EQ(run.lines.size(), 28u) << run.all;
+  ASSERT_EQ(run.exitCode, 0) << run.all();
+  ASSERT_EQ(run.lines.size(), 28u) << run.all();
   EXPECT_EQ(run.lines[0], "0\t0\tREDUCER\tassembly\t1");
   EXPECT_EQ(run.lines[13], "2\t3.6\tEND_CAP_ASM\tassembly\t2");
   EXPECT_EQ(run.lines[15], "3\t3.6.2\tGB97_1_8\tpart\t8") << "four in each of the two end caps";
@@ -65,7 +42,7 @@ TEST_F(RowsJobTest, MultiLevelShowsTheTreeWithOutlineNumbers) {
 
 TEST_F(RowsJobTest, MultiLevelSortedByDrawingNumberPutsPartsFirstUnderEachParent) {
   JobRun run = Rows("--level multi --sort 图号");
-  ASSERT_EQ(run.exitCode, 0) << run.all;
+  ASSERT_EQ(run.exitCode, 0) << run.all();
   ASSERT_GE(run.lines.size(), 7u);
   EXPECT_EQ(run.lines[1], "1\t1\tGB5782_M8X30\tpart\t8");
   EXPECT_EQ(run.lines[4], "1\t4\tHOUSING\tpart\t1");
@@ -75,7 +52,7 @@ TEST_F(RowsJobTest, MultiLevelSortedByDrawingNumberPutsPartsFirstUnderEachParent
 
 TEST_F(RowsJobTest, SummaryCountsEveryOccurrenceAndAFilterTakesStandardPartsOut) {
   JobRun run = Rows("--level summary --filter-key 图号 --filter-values GB");
-  ASSERT_EQ(run.exitCode, 0) << run.all;
+  ASSERT_EQ(run.exitCode, 0) << run.all();
   for (const std::string& line : run.lines) EXPECT_EQ(line.find("\tGB"), std::string::npos) << line;
   EXPECT_NE(std::find(run.lines.begin(), run.lines.end(), "-1\t\tOIL_RING\tpart\t4"), run.lines.end());
   JobRun all = Rows("--level summary");
@@ -84,17 +61,17 @@ TEST_F(RowsJobTest, SummaryCountsEveryOccurrenceAndAFilterTakesStandardPartsOut)
 
 TEST_F(RowsJobTest, DrawingOfAPartListsThePartAndItsSortIsRefused) {
   JobRun run = Rows("--level single --current output_shaft.drw");
-  EXPECT_EQ(run.exitCode, 0) << run.all;
+  EXPECT_EQ(run.exitCode, 0) << run.all();
   EXPECT_EQ(run.lines, (std::vector<std::string>{"-1\t\tOUTPUT_SHAFT\tpart\t1"}));
   JobRun sorted = Rows("--level multi --sort 图号 --current output_shaft.drw");
   EXPECT_EQ(sorted.exitCode, 1);
-  EXPECT_NE(sorted.all.find("PRO_TK_E_NOT_FOUND"), std::string::npos);
+  EXPECT_NE(sorted.all().find("PRO_TK_E_NOT_FOUND"), std::string::npos);
 }
 
 TEST_F(RowsJobTest, PartAsCurrentModelHasNoListAndBadOptionsAreRefused) {
   JobRun part = Rows("--level summary --current housing.prt");
   EXPECT_EQ(part.exitCode, 1);
-  EXPECT_NE(part.all.find("PRO_TK_E_NOT_FOUND"), std::string::npos);
+  EXPECT_NE(part.all().find("PRO_TK_E_NOT_FOUND"), std::string::npos);
   EXPECT_EQ(Rows("").exitCode, 2) << "--level is required";
   EXPECT_EQ(Rows("--level tree").exitCode, 2);
   EXPECT_EQ(Rows("--level multi --same-asm-cmps 2").exitCode, 2);
