@@ -50,6 +50,10 @@ bool SetCurrentModel(ProMdl model);
 // an unknown model or a file that cannot be written.
 std::optional<std::filesystem::path> WriteModelCopy(ProMdl model, const std::filesystem::path& dir);
 
+// The model as a save would write it now, on one line of JSON: what the
+// session changed before anything was saved. Nullopt for an unknown model.
+std::optional<std::string> ModelState(ProMdl model);
+
 // Control comes back to the host after an action: a requested window
 // activation takes effect.
 void ReturnToHost();

@@ -110,10 +110,17 @@ ParseResult ParseOptions(const std::vector<std::string>& args) {
   const bool rowsJob = options.job == "rows";
   const bool guiJob = options.job == "gui";
   const bool bomJob = options.job == "bom";
-  if (options.job != "commands" && !rowsJob && !guiJob && !bomJob)
+  const bool playJob = options.job == "play";
+  if (options.job != "commands" && !rowsJob && !guiJob && !bomJob && !playJob)
     return {std::nullopt, "unknown job: " + options.job};
 
-  for (size_t i = 1; i < args.size(); ++i) {
+  size_t first = 1;
+  if (playJob) {
+    if (args.size() < 2 || args[1].starts_with("--")) return {std::nullopt, "the play job needs a SCRIPT"};
+    options.script = args[1];
+    first = 2;
+  }
+  for (size_t i = first; i < args.size(); ++i) {
     const std::string& name = args[i];
     if (bomJob && ParseBomFlag(name, options.bom)) continue;
     if (i + 1 >= args.size()) return {std::nullopt, "missing value of " + name};
@@ -165,5 +172,7 @@ std::string Usage() {
          "DIR]\n"
          "                         [--level single|multi|summary] [--sort N] [--filter N] [--excel] "
          "[--text]\n"
-         "                         [--drawing --pick X,Y] [--out DIR] [--name NAME] [--overwrite]\n";
+         "                         [--drawing --pick X,Y] [--out DIR] [--name NAME] [--overwrite]\n"
+         "       bom-workbench play SCRIPT [--session DIR] [--current FILE|none] [--plugin-root DIR] "
+         "[--workdir DIR]\n";
 }

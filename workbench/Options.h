@@ -29,6 +29,7 @@ struct WorkbenchOptions {
   RowsOptions rows{};
   GuiOptions gui{};
   BomOptions bom{};
+  std::filesystem::path script{};  // the job "play"
 };
 
 struct ParseResult {

@@ -9,6 +9,7 @@
 #include "GuiJob.h"
 #include "HostSession.h"
 #include "Options.h"
+#include "PlayJob.h"
 #include "Plugin.h"
 #include "RowsJob.h"
 
@@ -36,6 +37,8 @@ int main(int argc, char* argv[]) {
     exitCode = PrintRows(options.rows, std::cout, std::cerr);
   } else if (options.job == "bom") {
     exitCode = RunBomJob(options.bom, options.workdir, std::cout, std::cerr, argc, argv);
+  } else if (options.job == "play") {
+    exitCode = RunPlayJob(options.script, std::cout, std::cerr, argc, argv);
   } else if (options.job == "gui") {
     exitCode = RunGui(options.gui, argc, argv);
   } else {

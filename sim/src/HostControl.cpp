@@ -9,6 +9,8 @@
 #include "Text.h"
 #include "Trail.h"
 
+#include <nlohmann/json.hpp>
+
 namespace sim {
 namespace {
 
@@ -89,6 +91,13 @@ std::optional<std::filesystem::path> WriteModelCopy(ProMdl model, const std::fil
       dir / platform::NativePath(VersionedFileName(*live, HighestVersionIn(dir, *live) + 1));
   if (!WriteModelFile(file, SavedDocument(*live))) return std::nullopt;
   return file;
+}
+
+std::optional<std::string> ModelState(ProMdl model) {
+  auto hold = Hold();
+  const Model* live = TheHost().state.LiveModel(model);
+  if (!live) return std::nullopt;
+  return nlohmann::json::parse(SavedDocument(*live)).dump();
 }
 
 void ReturnToHost() {

@@ -1,0 +1,22 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds the release preset and plays one of the
+# scripts of samples/scripts on the sample session:
+#   scripts/play-sample.sh bom-levels
+# Each play gets a fresh working directory, ./bom-work/play/NAME, and its own
+# copy of the plug-in's files there (app/), so that what a script changes in
+# the settings stays with that play.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+name="${1:?usage: scripts/play-sample.sh NAME (one of: $(cd samples/scripts && ls *.play | sed 's/\.play$//' | tr '\n' ' '))}"
+script="samples/scripts/${name%.play}.play"
+[ -f "$script" ] || { echo "no script $script" >&2; exit 2; }
+
+scripts/setup.sh
+cmake --preset release >/dev/null
+cmake --build --preset release -j 2
+work="bom-work/play/${name%.play}"
+rm -rf "$work"
+mkdir -p "$work"
+cp -r build/release/stage "$work/app"
+exec build/release/workbench/bom-workbench play "$script" --workdir "$work" --plugin-root "$work/app" "${@:2}"

@@ -1,0 +1,33 @@
+#include "PlayJob.h"
+
+#include <QApplication>
+
+#include <cstdlib>
+#include <fstream>
+#include <sstream>
+
+#include "CodePage.h"
+#include "Script.h"
+#include "ScriptRunner.h"
+
+int RunPlayJob(const std::filesystem::path& script, std::ostream& out, std::ostream& err, int argc,
+               char* argv[]) {
+  std::ifstream file(script, std::ios::binary);
+  std::ostringstream text;
+  if (!file || !(text << file.rdbuf())) {
+    err << "bom-workbench: cannot read the script " << script.string() << "\n";
+    return 1;
+  }
+  ParsedScript parsed = ParseScript(text.str());
+  if (!parsed.error.empty()) {
+    err << "bom-workbench: " << script.string() << ":" << parsed.errorLine << ": "
+        << platform::ToNarrow(parsed.error) << "\n";
+    return 1;
+  }
+  if (!std::getenv("DISPLAY") && !std::getenv("WAYLAND_DISPLAY") && !std::getenv("QT_QPA_PLATFORM"))
+    setenv("QT_QPA_PLATFORM", "offscreen", 1);
+  QApplication app(argc, argv);
+  PlayOptions options;
+  options.scriptName = platform::ToWide(script.string());
+  return PlayScript(parsed.steps, options, out, err);
+}
