@@ -24,8 +24,8 @@ namespace {
 
 const std::map<std::wstring, ControlKind>& KindsByName() {
   static const std::map<std::wstring, ControlKind> kinds{
-      {L"edit", ControlKind::Edit},   {L"combo", ControlKind::Combo}, {L"text", ControlKind::Text},
-      {L"list", ControlKind::List},   {L"tree", ControlKind::Tree},   {L"check", ControlKind::Check},
+      {L"edit", ControlKind::Edit},   {L"combo", ControlKind::Combo},  {L"text", ControlKind::Text},
+      {L"list", ControlKind::List},   {L"tree", ControlKind::Tree},    {L"check", ControlKind::Check},
       {L"radio", ControlKind::Radio}, {L"button", ControlKind::Button}};
   return kinds;
 }
@@ -67,7 +67,8 @@ std::wstring StripAccelerator(const std::wstring& text) {
 }
 
 std::wstring WithoutTrailingColon(std::wstring text) {
-  while (!text.empty() && (text.back() == L':' || text.back() == L'：' || text.back() == L' ')) text.pop_back();
+  while (!text.empty() && (text.back() == L':' || text.back() == L'：' || text.back() == L' '))
+    text.pop_back();
   return text;
 }
 
@@ -169,7 +170,8 @@ std::optional<FoundControl> FindByPosition(QWidget* window, const std::wstring& 
   std::vector<QWidget*> controls = VisibleControls(within, {kind->second});
   if (number < 1 || number > static_cast<int>(controls.size())) {
     return FoundControl{nullptr, L"no control " + name + L": there " +
-                                     (controls.size() == 1 ? L"is " : L"are ") + std::to_wstring(controls.size())};
+                                     (controls.size() == 1 ? L"is " : L"are ") +
+                                     std::to_wstring(controls.size())};
   }
   return FoundControl{controls[number - 1], {}};
 }
@@ -238,7 +240,8 @@ FoundControl FindControl(QWidget* window, const std::wstring& name, const std::v
     std::vector<QWidget*> held = VisibleControls(frame, kinds);
     for (QWidget* control : held) {
       std::optional<ControlKind> kind = KindOf(control);
-      if (held.size() == 1 || kind == ControlKind::List || kind == ControlKind::Tree) matches.push_back(control);
+      if (held.size() == 1 || kind == ControlKind::List || kind == ControlKind::Tree)
+        matches.push_back(control);
     }
   }
   if (!matches.empty()) return OneOf(matches, name);
@@ -264,8 +267,8 @@ FoundControl FindControl(QWidget* window, const std::wstring& name, const std::v
 std::vector<QWidget*> PluginWindows(const QWidget* exclude) {
   std::vector<QWidget*> windows;
   for (QWidget* widget : QApplication::topLevelWidgets()) {
-    if (widget != exclude && widget->isVisible() && widget->isWindow() &&
-        widget->windowType() != Qt::Popup && widget->windowType() != Qt::ToolTip)
+    if (widget != exclude && widget->isVisible() && widget->isWindow() && widget->windowType() != Qt::Popup &&
+        widget->windowType() != Qt::ToolTip)
       windows.push_back(widget);
   }
   QWidget* modal = QApplication::activeModalWidget();

@@ -1,8 +1,8 @@
 // Finds a control of a plug-in window by the name a script gives it: its
 // object name, its caption, the caption of the frame that holds it (a list,
-// a tree, or the frame's only control of the kind), the label shown in front of it, the word `list` or `tree` where the
-// window has one, or `KIND@FRAME#N`, the N-th control of a kind in reading
-// order inside a frame (`KIND@#N` over the whole window).
+// a tree, or the frame's only control of the kind), the label shown in front of it, the word `list` or `tree`
+// where the window has one, or `KIND@FRAME#N`, the N-th control of a kind in reading order inside a frame
+// (`KIND@#N` over the whole window).
 #pragma once
 
 #include <string>

@@ -49,7 +49,8 @@ CellAddress AddressOf(QAbstractItemView* view, const std::wstring& row, const st
   return address;
 }
 
-std::optional<std::vector<int>> RowsOf(QAbstractItemView* view, const std::wstring& rows, std::wstring& error) {
+std::optional<std::vector<int>> RowsOf(QAbstractItemView* view, const std::wstring& rows,
+                                       std::wstring& error) {
   int count = view->model()->rowCount();
   std::vector<int> chosen;
   size_t start = 0;
@@ -88,7 +89,8 @@ std::vector<std::wstring> DumpLines(QAbstractItemView* view) {
   lines.push_back(header);
   for (int row = 0; row < model->rowCount(); ++row) {
     std::wstring line = !HasCheckBox(view, row) ? L"[-]" : IsChecked(view, row) ? L"[x]" : L"[ ]";
-    for (int col = 0; col < model->columnCount(); ++col) line += L'\t' + CellText(view, row, col).toStdWString();
+    for (int col = 0; col < model->columnCount(); ++col)
+      line += L'\t' + CellText(view, row, col).toStdWString();
     lines.push_back(line);
   }
   return lines;

@@ -23,7 +23,8 @@ CellAddress AddressOf(QAbstractItemView* view, const std::wstring& row, const st
 
 // Rows given as "2", "2,5" or "2-5", from 0 and ascending; nullopt with
 // `error` set for a text of another form or a row past the list.
-std::optional<std::vector<int>> RowsOf(QAbstractItemView* view, const std::wstring& rows, std::wstring& error);
+std::optional<std::vector<int>> RowsOf(QAbstractItemView* view, const std::wstring& rows,
+                                       std::wstring& error);
 
 // The header line (empty for a list box), then each row: "[x]", "[ ]" or
 // "[-]" where the row has no check box, a tab, and the cells tab-separated.

@@ -40,14 +40,16 @@ void Click(QAbstractItemView* view, const QPoint& point, Qt::MouseButton button 
 ListStepResult AddressError(const CellAddress& address) { return {address.error, true}; }
 
 ListStepResult Check(QAbstractItemView* view, const Fields& fields) {
-  if (fields.size() != 4 || (fields[3] != L"on" && fields[3] != L"off")) return Usage(L"check LIST ROW on|off");
+  if (fields.size() != 4 || (fields[3] != L"on" && fields[3] != L"off"))
+    return Usage(L"check LIST ROW on|off");
   CellAddress address = AddressOf(view, fields[2], L"");
   if (!address.error.empty()) return AddressError(address);
   if (!HasCheckBox(view, address.row)) return Error(L"row " + fields[2] + L" has no check box");
   bool wanted = fields[3] == L"on";
   if (IsChecked(view, address.row) == wanted) return Ok();
   Click(view, CheckPoint(view, address.row));
-  if (IsChecked(view, address.row) != wanted) return Error(L"the check box of row " + fields[2] + L" did not change");
+  if (IsChecked(view, address.row) != wanted)
+    return Error(L"the check box of row " + fields[2] + L" did not change");
   return Ok();
 }
 
@@ -57,7 +59,8 @@ ListStepResult Select(QAbstractItemView* view, const Fields& fields) {
   std::optional<std::vector<int>> rows = RowsOf(view, fields[2], error);
   if (!rows) return {error, true};
   view->clearSelection();
-  for (int row : *rows) Click(view, CellPoint(view, row, RowClickColumn(view)), Qt::LeftButton, Qt::ControlModifier);
+  for (int row : *rows)
+    Click(view, CellPoint(view, row, RowClickColumn(view)), Qt::LeftButton, Qt::ControlModifier);
   return Ok();
 }
 
@@ -88,7 +91,8 @@ ListStepResult Edit(QAbstractItemView* view, const Fields& fields) {
   QPointer<QComboBox> box = OpenEditor<QComboBox>(view);
   QWidget* field = OpenEditor<QTextEdit>(view);
   if (!field) field = OpenEditor<QLineEdit>(view);
-  if (!box && !field) return Error(L"the cell of row " + fields[2] + L", column " + fields[3] + L" is not editable");
+  if (!box && !field)
+    return Error(L"the cell of row " + fields[2] + L", column " + fields[3] + L" is not editable");
   if (box && !ChooseEntry(box, fields[4])) {
     std::wstring error = NoEntry(box, fields[4]);
     box->hide();
@@ -126,7 +130,13 @@ ListStepResult ContextMenu(QAbstractItemView* view, const Fields& fields) {
     for (QAction* action : menu->actions()) {
       if (action->isSeparator()) continue;
       if (SameCaption(action->text().toStdWString(), entry) && action->isEnabled()) {
-        QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(action).center());
+        // Highlighted and taken with the Enter key, as from the keyboard.
+        menu->setActiveAction(action);
+        QTest::keyClick(menu, Qt::Key_Return);
+        if (menu->isVisible()) {
+          error = L"the entry " + entry + L" did not end the menu";
+          menu->close();
+        }
         return;
       }
       entries += (entries.empty() ? L"" : L", ") + action->text().toStdWString();

@@ -14,7 +14,8 @@ struct ListStepResult {
 };
 
 // `fields` is the whole step, its name first and the list's name second.
-ListStepResult RunListStep(QAbstractItemView* view, const std::vector<std::wstring>& fields, std::ostream& out);
+ListStepResult RunListStep(QAbstractItemView* view, const std::vector<std::wstring>& fields,
+                           std::ostream& out);
 
 // Expands the item's parents and clicks the item; the reason when there is
 // no such item.

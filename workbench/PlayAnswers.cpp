@@ -21,9 +21,11 @@ constexpr int kIdCancel = 2;
 
 const std::map<std::wstring, AnswerKind>& KindsByName() {
   static const std::map<std::wstring, AnswerKind> kinds{
-      {L"yes", AnswerKind::Yes},   {L"no", AnswerKind::No},     {L"ok", AnswerKind::Ok},
-      {L"cancel", AnswerKind::Cancel}, {L"dir", AnswerKind::Dir},   {L"file", AnswerKind::File},
-      {L"pick", AnswerKind::Pick}, {L"placement", AnswerKind::Placement}, {L"text", AnswerKind::Text}};
+      {L"yes", AnswerKind::Yes},   {L"no", AnswerKind::No},
+      {L"ok", AnswerKind::Ok},     {L"cancel", AnswerKind::Cancel},
+      {L"dir", AnswerKind::Dir},   {L"file", AnswerKind::File},
+      {L"pick", AnswerKind::Pick}, {L"placement", AnswerKind::Placement},
+      {L"text", AnswerKind::Text}};
   return kinds;
 }
 
@@ -55,7 +57,8 @@ std::string Narrow(const std::wstring& text) { return platform::ToNarrow(text); 
 std::optional<QueuedAnswer> ParseAnswer(const std::vector<std::wstring>& fields, std::wstring& error) {
   auto kind = fields.empty() ? KindsByName().end() : KindsByName().find(fields[0]);
   if (kind == KindsByName().end()) {
-    error = L"answer takes yes, no, ok, cancel, dir PATH, file PATH, pick X,Y, placement ok|cancel or text TEXT";
+    error =
+        L"answer takes yes, no, ok, cancel, dir PATH, file PATH, pick X,Y, placement ok|cancel or text TEXT";
     return std::nullopt;
   }
   size_t wanted = TakesValue(kind->second) ? 2 : 1;
@@ -75,9 +78,8 @@ PlayAnswers::PlayAnswers(std::ostream& out) : out_(out) {
   platform::SetMessageBoxHandler([this](const platform::MessageBoxRequest& request) {
     return AnswerMessageBox(request.caption, request.text, request.flags);
   });
-  platform::SetFileOpenHandler([this](const platform::FileOpenRequest& request) {
-    return AnswerChooser("file", request.filter);
-  });
+  platform::SetFileOpenHandler(
+      [this](const platform::FileOpenRequest& request) { return AnswerChooser("file", request.filter); });
   // Nothing is launched from a scripted session: the request is shown.
   platform::SetShellOpenHandler([this](const platform::ShellOpenRequest& request) {
     out_ << "open " << Narrow(request.path) << std::endl;
@@ -128,16 +130,17 @@ int PlayAnswers::AnswerMessageBox(const std::wstring& caption, const std::wstrin
   } else {
     queue_.pop_front();
     said = NameOf(next->kind);
-    answer = next->kind == AnswerKind::Yes ? platform::kIdYes
-             : next->kind == AnswerKind::Ok ? platform::kIdOk
+    answer = next->kind == AnswerKind::Yes                                     ? platform::kIdYes
+             : next->kind == AnswerKind::Ok                                    ? platform::kIdOk
              : next->kind == AnswerKind::Cancel && flags != platform::kMbYesNo ? kIdCancel
-                                                                                : platform::kIdNo;
+                                                                               : platform::kIdNo;
   }
   out_ << "prompt " << Narrow(caption) << ": " << Narrow(text) << " -> " << Narrow(said) << std::endl;
   return answer;
 }
 
-std::optional<std::wstring> PlayAnswers::AnswerChooser(const std::string& callName, const std::wstring& label) {
+std::optional<std::wstring> PlayAnswers::AnswerChooser(const std::string& callName,
+                                                       const std::wstring& label) {
   std::lock_guard hold(mutex_);
   std::optional<AnswerKind> kind = callName == "file" ? AnswerKind::File : KindOfChooser(callName);
   std::optional<std::wstring> chosen;

@@ -67,7 +67,8 @@ std::wstring StepText(const ScriptStep& step) {
   std::wstring text;
   for (const std::wstring& field : step.fields) {
     if (!text.empty()) text += L' ';
-    bool quote = field.empty() || field.find_first_of(L" \t\"#") != std::wstring::npos;
+    bool quote =
+        field.empty() || field.starts_with(L'#') || field.find_first_of(L" \t\"") != std::wstring::npos;
     if (!quote) {
       text += field;
       continue;

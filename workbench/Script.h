@@ -7,7 +7,7 @@
 #include <vector>
 
 struct ScriptStep {
-  int line = 0;  // from 1, as an editor counts
+  int line = 0;                      // from 1, as an editor counts
   std::vector<std::wstring> fields;  // the step's name first
 };
 

@@ -36,7 +36,7 @@ Outcome Fail(std::wstring reason) { return {Outcome::Fail, std::move(reason)}; }
 
 std::string Narrow(const std::wstring& text) { return platform::ToNarrow(text); }
 
-// A window that only shows progress: the next step waits until it is gone.
+// A window that only shows progress.
 bool IsBusy(const QWidget* window) {
   return window && window->findChild<QProgressBar*>() && !window->findChild<QAbstractButton*>();
 }
@@ -85,7 +85,10 @@ class Player {
   void RunNext() {
     if (finished_) return;
     if (std::optional<std::wstring> failure = answers_.TakeFailure()) return Finish(*failure);
-    if (IsBusy(QApplication::activeModalWidget())) return tick_.start(kPollMs);
+    // A step's own menu, or a window that only shows progress, is not where
+    // the next step acts: it waits until they are gone.
+    if (QApplication::activePopupWidget() || IsBusy(QApplication::activeModalWidget()))
+      return tick_.start(kPollMs);
     if (next_ >= steps_.size()) return Finish(std::nullopt);
     size_t index = next_;
     const ScriptStep& step = steps_[index];
@@ -112,10 +115,12 @@ class Player {
 
   Outcome Attempt(const ScriptStep& step) {
     static const std::map<std::wstring, StepFunction> steps{
-        {L"run", &Player::StepRun},       {L"current", &Player::StepCurrent}, {L"click", &Player::StepClick},
-        {L"set", &Player::StepSet},       {L"check", &Player::StepCheck},     {L"select", &Player::StepList},
-        {L"dblclick", &Player::StepList}, {L"edit", &Player::StepList},      {L"menu", &Player::StepList},
-        {L"dump", &Player::StepList},     {L"tree", &Player::StepTree},      {L"answer", &Player::StepAnswer},
+        {L"run", &Player::StepRun},       {L"current", &Player::StepCurrent},
+        {L"click", &Player::StepClick},   {L"set", &Player::StepSet},
+        {L"check", &Player::StepCheck},   {L"select", &Player::StepList},
+        {L"dblclick", &Player::StepList}, {L"edit", &Player::StepList},
+        {L"menu", &Player::StepList},     {L"dump", &Player::StepList},
+        {L"tree", &Player::StepTree},     {L"answer", &Player::StepAnswer},
         {L"model", &Player::StepModel},   {L"close", &Player::StepClose}};
     auto function = steps.find(step.fields[0]);
     if (function == steps.end()) return Fail(L"no step " + step.fields[0]);
@@ -176,14 +181,16 @@ class Player {
   Outcome StepCurrent(const ScriptStep& step) {
     if (!HasFields(step, 2, 2)) return Usage(L"current FILE");
     ProMdl model = sim::OpenModel(step.fields[1]);
-    if (!model || !sim::SetCurrentModel(model)) return Fail(L"no model " + step.fields[1] + L" in the session");
+    if (!model || !sim::SetCurrentModel(model))
+      return Fail(L"no model " + step.fields[1] + L" in the session");
     return Done();
   }
 
   Outcome StepClick(const ScriptStep& step) {
     if (!HasFields(step, 2, 2)) return Usage(L"click CONTROL");
     QWidget* control = nullptr;
-    Outcome found = Find(step.fields[1], {ControlKind::Button, ControlKind::Check, ControlKind::Radio}, control);
+    Outcome found =
+        Find(step.fields[1], {ControlKind::Button, ControlKind::Check, ControlKind::Radio}, control);
     if (found.kind != Outcome::Done) return found;
     static_cast<QAbstractButton*>(control)->click();
     return Done();

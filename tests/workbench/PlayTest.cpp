@@ -70,7 +70,8 @@ TEST(ScriptTest, FieldsQuotesAndComments) {
   EXPECT_EQ(script.steps[0].line, 3);
   EXPECT_EQ(script.steps[0].fields, (std::vector<std::wstring>{L"set", L"名称", L"two words"}));
   EXPECT_EQ(script.steps[1].line, 4);
-  EXPECT_EQ(script.steps[1].fields, (std::vector<std::wstring>{L"set", L"combo@参考属性#2", L"say \"hi\"", L""}));
+  EXPECT_EQ(script.steps[1].fields,
+            (std::vector<std::wstring>{L"set", L"combo@参考属性#2", L"say \"hi\"", L""}));
   EXPECT_EQ(StepText(script.steps[1]), L"set combo@参考属性#2 \"say \"\"hi\"\"\" \"\"");
   EXPECT_EQ(script.steps[2].line, 5);
 
@@ -113,8 +114,8 @@ TEST_F(PlayTest, CheckSelectAndContextMenuActOnRows) {
 TEST_F(PlayTest, CellEditedAndSavedShowsInTheModel) {
   Played played = Play(
       "run CmdBOMShowId\n"
-      "edit list 1 名称 \"新 名称\"\n"
-      "edit list 1 材料 Q235\n"
+      "edit list 2 名称 \"新 名称\"\n"
+      "edit list 2 材料 Q235\n"
       "click 保存参数\n"
       "dump list\n"
       "model housing.prt\n");
@@ -122,6 +123,9 @@ TEST_F(PlayTest, CellEditedAndSavedShowsInTheModel) {
   EXPECT_TRUE(played.Printed("prompt 提示: 参数信息保存完成! -> ok")) << played.out;
   EXPECT_TRUE(played.Printed("\t新 名称\t")) << played.out;
   EXPECT_TRUE(played.Printed("Q235")) << played.out;
+  // The model line shows the new name before anything was saved.
+  std::string model = played.out.substr(played.out.find("6> model housing.prt\n"));
+  EXPECT_NE(model.find("新 名称"), std::string::npos) << model;
 }
 
 TEST_F(PlayTest, ModalDialogIsDrivenByTheNextSteps) {
@@ -143,7 +147,9 @@ TEST_F(PlayTest, QueuedAnswersGoToQuestionsAndChoosersInOrder) {
   std::filesystem::create_directories(dir_.path() / "out");
   Played played = Play(
       "run CmdBOMShowId\n"
-      "answer dir " + Out() + "\n"
+      "answer dir " +
+      Out() +
+      "\n"
       "click OutDirButton\n"
       "check Text on\n"
       "answer no\n"
@@ -163,19 +169,26 @@ TEST_F(PlayTest, StepsThatCannotRunFailWithTheirLine) {
     std::string message;
   } cases[] = {
       {"run CmdBOMShowId\nclick 不存在\n", "test.play:2: click 不存在: no control 不存在"},
-      {"run CmdBOMShowId\nset SortCombo 名称\n", "test.play:2: set SortCombo 名称: the control SortCombo is disabled"},
+      {"run CmdBOMShowId\nset SortCombo 名称\n",
+       "test.play:2: set SortCombo 名称: the control SortCombo is disabled"},
       {"run CmdBOMShowId\ncheck list 999 on\n", "test.play:2: check list 999 on: no row 999: the list has"},
-      {"current housing.prt\nrun CmdBOMShowId\n", "test.play:2: run CmdBOMShowId: the command CmdBOMShowId is not available"},
       {"run NoSuchCommand\n", "test.play:1: run NoSuchCommand: no command NoSuchCommand"},
-      {"run CmdBOMShowId\nclick OutDirButton\n", "test.play:2: click OutDirButton: no answer queued for the chooser ProDirectoryChoose"},
-      {"run CmdBOMShowId\ncheck Text on\nclick 输出\n", "test.play:3: click 输出: no answer queued for the question"},
-      {"run CmdBOMShowId\nset FilterCombo 没有\n", "test.play:2: set FilterCombo 没有: no entry 没有 in the drop-down"},
+      {"run CmdBOMShowId\nclick OutDirButton\n",
+       "test.play:2: click OutDirButton: no answer queued for the chooser ProDirectoryChoose"},
+      {"run CmdBOMShowId\ncheck Text on\nclick 输出\n",
+       "test.play:3: click 输出: no answer queued for the question"},
+      {"run CmdBOMShowId\nset FilterCombo 没有\n",
+       "test.play:2: set FilterCombo 没有: no entry 没有 in the drop-down"},
       {"run CmdBOMShowId\nmenu list 1 没有\n", "test.play:2: menu list 1 没有: no entry 没有 in the menu"},
       {"run CmdBOMShowId\nclick button@#99\n", "no control button@#99: there are"},
-      {"run CmdBOMShowId\ncheck list 1 maybe\n", "usage: check CHECKBOX on|off or check LIST ROW on|off"},
+      {"run CmdBOMShowId\ncheck list 1 maybe\n",
+       "test.play:2: check list 1 maybe: usage: check LIST ROW on|off"},
       {"frobnicate\n", "test.play:1: frobnicate: no step frobnicate"},
       {"answer maybe\n", "answer takes yes, no"},
       {"close\n", "test.play:1: close: no plug-in window is open"},
+      // Last: a part stays current.
+      {"current housing.prt\nrun CmdBOMShowId\n",
+       "test.play:2: run CmdBOMShowId: the command CmdBOMShowId is not available"},
   };
   for (const Case& c : cases) {
     Played played = Play(c.script);
@@ -207,7 +220,8 @@ TEST_F(PlayTest, AmbiguousNameNamesItsCandidates) {
   EXPECT_EQ(played.exitCode, 1);
   EXPECT_EQ(tree->currentItem()->text(0), "HOUSING");
   EXPECT_EQ(dialog.findChildren<QLineEdit*>()[1]->text(), "第二");
-  EXPECT_NE(played.err.find("the name 名字 is ambiguous: [edit 名字] [edit 名字]"), std::string::npos) << played.err;
+  EXPECT_NE(played.err.find("the name 名字 is ambiguous: [edit 名字] [edit 名字]"), std::string::npos)
+      << played.err;
 }
 
 }  // namespace
