@@ -6,6 +6,7 @@
 #include <QFocusEvent>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QPointer>
 #include <QTest>
@@ -37,6 +38,18 @@ void Click(QAbstractItemView* view, const QPoint& point, Qt::MouseButton button 
   QTest::mouseClick(view->viewport(), button, modifiers, point);
 }
 
+// The events a double click gives on the desktop: press, release, double
+// click, release.
+void DoubleClick(QAbstractItemView* view, const QPoint& point) {
+  QWidget* viewport = view->viewport();
+  QTest::mousePress(viewport, Qt::LeftButton, {}, point);
+  QTest::mouseRelease(viewport, Qt::LeftButton, {}, point);
+  QMouseEvent twice(QEvent::MouseButtonDblClick, point, viewport->mapToGlobal(point), Qt::LeftButton,
+                    Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(viewport, &twice);
+  QTest::mouseRelease(viewport, Qt::LeftButton, {}, point);
+}
+
 ListStepResult AddressError(const CellAddress& address) { return {address.error, true}; }
 
 ListStepResult Check(QAbstractItemView* view, const Fields& fields) {
@@ -64,12 +77,12 @@ ListStepResult Select(QAbstractItemView* view, const Fields& fields) {
   return Ok();
 }
 
-ListStepResult DoubleClick(QAbstractItemView* view, const Fields& fields) {
+ListStepResult DoubleClickStep(QAbstractItemView* view, const Fields& fields) {
   if (fields.size() != 3 && fields.size() != 4) return Usage(L"dblclick LIST ROW [COLUMN]");
   CellAddress address = AddressOf(view, fields[2], fields.size() == 4 ? fields[3] : L"");
   if (!address.error.empty()) return AddressError(address);
   int col = fields.size() == 4 ? address.col : RowClickColumn(view);
-  QTest::mouseDClick(view->viewport(), Qt::LeftButton, {}, CellPoint(view, address.row, col));
+  DoubleClick(view, CellPoint(view, address.row, col));
   return Ok();
 }
 
@@ -87,7 +100,7 @@ ListStepResult Edit(QAbstractItemView* view, const Fields& fields) {
   CellAddress address = AddressOf(view, fields[2], fields[3]);
   if (!address.error.empty()) return AddressError(address);
   QPoint cell = CellPoint(view, address.row, address.col);
-  QTest::mouseDClick(view->viewport(), Qt::LeftButton, {}, cell);
+  DoubleClick(view, cell);
   QPointer<QComboBox> box = OpenEditor<QComboBox>(view);
   QWidget* field = OpenEditor<QTextEdit>(view);
   if (!field) field = OpenEditor<QLineEdit>(view);
@@ -164,7 +177,7 @@ ListStepResult RunListStep(QAbstractItemView* view, const Fields& fields, std::o
   const std::wstring& step = fields[0];
   if (step == L"check") return Check(view, fields);
   if (step == L"select") return Select(view, fields);
-  if (step == L"dblclick") return DoubleClick(view, fields);
+  if (step == L"dblclick") return DoubleClickStep(view, fields);
   if (step == L"edit") return Edit(view, fields);
   if (step == L"menu") return ContextMenu(view, fields);
   return Dump(view, fields, out);

@@ -7,6 +7,8 @@
 #include <QDialog>
 #include <QGroupBox>
 #include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -159,6 +161,44 @@ TEST_F(PlayTest, QueuedAnswersGoToQuestionsAndChoosersInOrder) {
   EXPECT_TRUE(played.Printed("是否打开：")) << played.out;
   EXPECT_TRUE(played.Printed(" ？ -> no")) << played.out;
   EXPECT_TRUE(std::filesystem::exists(dir_.path() / "out" / "REDUCER_零件明细.txt"));
+}
+
+TEST_F(PlayTest, DrawingTableGoesToThePointAnsweredForThePick) {
+  Played played = Play(
+      "current reducer.drw\n"
+      "run CmdBOMShowId\n"
+      "check Drawing on\n"
+      "answer pick 400,300\n"
+      "click 输出\n");
+  ASSERT_EQ(played.exitCode, 0) << played.err;
+  EXPECT_TRUE(played.Printed("chooser ProMousePickGet  -> 400,300")) << played.out;
+}
+
+// A dialog of the test's own: a list whose double click opens a modal dialog
+// asking for one name.
+TEST_F(PlayTest, DoubleClickOpensADialogThatTakesTheQueuedText) {
+  QDialog dialog;
+  dialog.setWindowTitle("窗口");
+  auto* list = new QListWidget(&dialog);
+  list->addItems({"甲", "乙"});
+  (new QVBoxLayout(&dialog))->addWidget(list);
+  QString typed;
+  QObject::connect(list, &QListWidget::itemDoubleClicked, [&](QListWidgetItem* item) {
+    QDialog ask(&dialog);
+    ask.setWindowTitle("名称");
+    auto* field = new QLineEdit(&ask);
+    auto* confirm = new QPushButton("确定", &ask);
+    auto* layout = new QVBoxLayout(&ask);
+    layout->addWidget(field);
+    layout->addWidget(confirm);
+    QObject::connect(confirm, &QPushButton::clicked, &ask, &QDialog::accept);
+    if (ask.exec() == QDialog::Accepted) typed = item->text() + ":" + field->text();
+  });
+  dialog.show();
+  Played played = Play("answer text 新名称\ndblclick list 2\ndump list\n");
+  ASSERT_EQ(played.exitCode, 0) << played.err;
+  EXPECT_EQ(typed, "乙:新名称");
+  EXPECT_TRUE(played.Printed("dialog 名称 -> 新名称\n3> dump list\n\n[-]\t甲\n[-]\t乙\n")) << played.out;
 }
 
 // Each failing case names the script's line, the step and the reason, and
