@@ -102,6 +102,8 @@ int WriteBomExcel(const BomOutputTarget& target, const BomCheckedRows& rows) {
     return 0;
   }
   WriteHeadCells(excel, sheet, current);
+  // A bill longer than the template's ruled rows keeps their borders and font.
+  if (!rows.empty()) excel.SetModelRow(sheet, firstRow);
   int targetRow = firstRow;
   for (const std::vector<std::wstring>& cells : rows) {
     for (int col = 0; col < static_cast<int>(cells.size()); ++col) {

@@ -34,11 +34,15 @@ CDlgBomFilterSet::CDlgBomFilterSet(QWidget* parent) : QDialog(parent) {
   main->addLayout(right);
 
   connect(schemeList_, &QListWidget::currentRowChanged, showTimer_, qOverload<>(&QTimer::start));
+  // A click on the row selected at opening changes no row, yet shows it.
+  connect(schemeList_, &QListWidget::itemClicked, showTimer_, qOverload<>(&QTimer::start));
   connect(showTimer_, &QTimer::timeout, this, &CDlgBomFilterSet::ShowSelectedScheme);
   connect(apply, &QPushButton::clicked, this, &CDlgBomFilterSet::OnApply);
   connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
 
   FillSchemeList();
+  // Selected without a word to the fields: they stay empty until a click.
+  QSignalBlocker quiet(schemeList_);
   schemeList_->setCurrentRow(0);
 }
 

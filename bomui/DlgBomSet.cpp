@@ -31,6 +31,8 @@ Widget* Named(Widget* widget, const char* name) {
 QComboBox* FixedCombo(QWidget* parent, const char* name, const QStringList& items) {
   auto* combo = Named(new QComboBox(parent), name);
   combo->addItems(items);
+  // Nothing shows before a column is selected.
+  combo->setCurrentIndex(-1);
   return combo;
 }
 

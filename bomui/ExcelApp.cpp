@@ -47,6 +47,11 @@ int ExcelApp::SetCellText(const std::wstring& sheet, int row, int column, const 
   return 1;
 }
 
+int ExcelApp::SetModelRow(const std::wstring& sheet, int row) {
+  ActiveWorkbook().SetModelRow(sheet, row);
+  return 1;
+}
+
 int ExcelApp::GetCellText(const std::wstring& sheet, int row, int column, std::wstring& text) {
   text.clear();  // stays empty when the read throws
   text = ActiveWorkbook().GetCellText(sheet, row, column);

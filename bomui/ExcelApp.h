@@ -36,6 +36,9 @@ class ExcelApp {
   // template is not there (FileAccessible) or cannot be read.
   int NewFromTemplate(const std::wstring& templatePath);
   int SetCellText(const std::wstring& sheet, int row, int column, const std::wstring& text);
+  // New cells below the template's rows take the format of `row`'s cell in
+  // their column (workbook::Workbook::SetModelRow).
+  int SetModelRow(const std::wstring& sheet, int row);
   // Empties `text`, then gives the cell's value as text.
   int GetCellText(const std::wstring& sheet, int row, int column, std::wstring& text);
   // Saves as directory + "\" (unless it ends in one) + name + the extension

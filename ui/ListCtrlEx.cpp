@@ -1,7 +1,10 @@
 #include "ListCtrlEx.h"
 
+#include <QApplication>
 #include <QHeaderView>
 #include <QMouseEvent>
+#include <QProxyStyle>
+#include <QStyleFactory>
 #include <QStyledItemDelegate>
 #include <QTextEdit>
 
@@ -15,6 +18,11 @@ namespace {
 
 constexpr QRgb kOddRowColour = 0xE6E6E6;
 constexpr int kMinComboColumnWidth = 5;
+// Check box and image drawn small and close, so that a row number of three
+// digits still reads whole in a first column of 50 pixels.
+constexpr int kCheckSize = 10;
+constexpr int kImageSize = 12;
+constexpr int kCellItemMargin = -1;  // plus the one pixel Qt adds: none
 
 // A cell that sorts by the narrow-code-page text.
 class SortTextItem : public QTableWidgetItem {
@@ -38,6 +46,36 @@ class ShadedRowDelegate : public QStyledItemDelegate {
   }
 };
 
+// The application's style, with the check box and the margins of the cells'
+// parts made compact. Set on the list alone: its header, scroll bars and
+// edit fields keep the application's.
+class CompactCellStyle : public QProxyStyle {
+ public:
+  using QProxyStyle::QProxyStyle;
+
+  int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
+    switch (metric) {
+      case PM_IndicatorWidth:
+      case PM_IndicatorHeight:
+        return kCheckSize;
+      case PM_FocusFrameHMargin:
+        return kCellItemMargin;
+      default:
+        return QProxyStyle::pixelMetric(metric, option, widget);
+    }
+  }
+};
+
+// One for all lists, owned by the application.
+QStyle* CompactStyle() {
+  static QStyle* style = [] {
+    auto* compact = new CompactCellStyle(QStyleFactory::create(QApplication::style()->name()));
+    compact->setParent(qApp);
+    return compact;
+  }();
+  return style;
+}
+
 }  // namespace
 
 CListCtrlEx::CListCtrlEx(QWidget* parent) : QTableWidget(parent) {
@@ -46,7 +84,8 @@ CListCtrlEx::CListCtrlEx(QWidget* parent) : QTableWidget(parent) {
   setSelectionMode(QAbstractItemView::ExtendedSelection);
   setEditTriggers(QAbstractItemView::NoEditTriggers);
   setSortingEnabled(false);
-  setIconSize(QSize(16, 16));
+  setStyle(CompactStyle());
+  setIconSize(QSize(kImageSize, kImageSize));
   setItemPrototype(new SortTextItem);
   setItemDelegate(new ShadedRowDelegate(this));
   verticalHeader()->hide();
@@ -239,5 +278,8 @@ void CListCtrlEx::SortByColumn(int col) {
   } else {
     sortAscending_ = sortAscending_ ? 0 : 1;
   }
+  // A never-written cell sorts as the empty text it shows; Qt's sort would
+  // put its row last in either direction.
+  for (int row = 0; row < rowCount(); ++row) CellItem(row, sortCol_);
   sortItems(sortCol_, sortAscending_ ? Qt::AscendingOrder : Qt::DescendingOrder);
 }

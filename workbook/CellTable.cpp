@@ -251,6 +251,8 @@ size_t CellTable::CountCellsOfType(uint16_t type) const {
   return count;
 }
 
+uint32_t CellTable::RowLimit() const { return rows_.empty() ? 0 : rows_.rbegin()->first + 1u; }
+
 CellTable::Written CellTable::Write(uint16_t defaultRowHeight) const {
   Written written;
   uint32_t rowLimit = 0;

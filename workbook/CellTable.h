@@ -48,6 +48,8 @@ class CellTable {
   // that position; a MULRK/MULBLANK run is split around it.
   void Put(uint16_t row, uint16_t column, Record cell);
   size_t CountCellsOfType(uint16_t type) const;
+  // One past the last row with a ROW record or a cell; 0 for none.
+  uint32_t RowLimit() const;
 
   struct Written {
     std::vector<Record> records;  // ROW, cells and DBCELL of each block

@@ -30,7 +30,9 @@ class Workbook {
   // regard to case. A text that Excel would take as a number when typed is
   // stored as a number unless the cell is formatted as text; an empty text
   // leaves the cell without a value. An existing cell keeps its format; a new
-  // one takes its row's or column's. Throws Error for a missing sheet, a cell
+  // one takes its row's or column's, or in a row below the workbook as it was
+  // read, the format of its column's cell in the model row (SetModelRow).
+  // Throws Error for a missing sheet, a cell
   // out of the format's range or a cell that cannot be overwritten (part of
   // an array or the anchor of a shared formula); nothing changes then.
   virtual void SetCellText(std::wstring_view sheet, int row, int column, std::wstring_view text) = 0;
@@ -38,6 +40,12 @@ class Workbook {
   // booleans "TRUE"/"FALSE", errors as shown ("#N/A"), formulas by their
   // cached result, an empty cell empty. Throws Error as SetCellText.
   virtual std::wstring GetCellText(std::wstring_view sheet, int row, int column) const = 0;
+  // Makes `row` the model of the rows below the last one the sheet had when
+  // read: a new cell there that its row does not format takes the format of
+  // the model row's cell in its column, when that row has one there. So a
+  // table longer than the rows its template ruled keeps their borders and
+  // font throughout. Throws Error as SetCellText.
+  virtual void SetModelRow(std::wstring_view sheet, int row) = 0;
 
   // The whole file as it would be saved.
   virtual Bytes Save() const = 0;

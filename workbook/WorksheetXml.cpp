@@ -73,6 +73,7 @@ WorksheetXml::WorksheetXml(const Bytes& xml, std::string_view part) {
       }
     }
   }
+  if (!rows_.empty()) lastReadRow_ = rows_.rbegin()->first;
 }
 
 pugi::xml_node WorksheetXml::FindCell(int row, int column) const {
@@ -86,6 +87,9 @@ std::optional<int> WorksheetXml::StyleForNewCell(int row, int column) const {
   auto rowIt = rows_.find(row);
   if (rowIt != rows_.end() && rowIt->second.node.attribute("customFormat").as_bool()) {
     return rowIt->second.node.attribute("s").as_int();
+  }
+  if (modelRow_ && row > lastReadRow_) {
+    if (pugi::xml_node model = FindCell(*modelRow_, column)) return model.attribute("s").as_int();
   }
   pugi::xml_node columns = Child(document_.document_element(), "cols");
   for (pugi::xml_node range : columns.children()) {

@@ -24,8 +24,10 @@ class WorksheetXml {
   // The cell, made with `style` when it is missing; the sheet's dimension
   // grows to hold it.
   pugi::xml_node MakeCell(int row, int column, std::optional<int> style);
-  // What a new cell takes: its row's format, else its column's.
+  // What a new cell takes: its row's format, else below the rows read the
+  // model row's cell's (SetModelRow), else its column's.
   std::optional<int> StyleForNewCell(int row, int column) const;
+  void SetModelRow(int row) { modelRow_ = row; }
   // Whether the cell lies in an array formula's range or is the master of a
   // shared formula: Excel changes neither alone.
   bool InFormulaGroup(int row, int column) const;
@@ -49,6 +51,8 @@ class WorksheetXml {
   pugi::xml_node sheetData_;
   std::map<int, Row> rows_;
   std::vector<Range> arrays_;
+  int lastReadRow_ = 0;
+  std::optional<int> modelRow_;
 };
 
 }  // namespace workbook::ooxml

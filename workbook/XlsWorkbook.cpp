@@ -159,6 +159,7 @@ void XlsWorkbook::ReadSheet(const RecordList& stream, size_t boundSheet, size_t 
 
   if (sheet.isWorksheet) {
     sheet.cells = CellTable::Read(sheet.records);
+    sheet.readRowLimit = sheet.cells.RowLimit();
     Walk levels;
     for (const Record& record : sheet.records) {
       if (levels.Enter(record) != 1) continue;
@@ -198,6 +199,9 @@ XlsWorkbook::Sheet& XlsWorkbook::FindWorksheet(std::wstring_view name) {
 
 uint16_t XlsWorkbook::FormatForNewCell(const Sheet& sheet, uint16_t row, uint16_t column) const {
   if (auto rowFormat = sheet.cells.RowFormat(row)) return *rowFormat;
+  if (sheet.modelRow && row >= sheet.readRowLimit) {
+    if (auto model = sheet.cells.CellFormat(*sheet.modelRow, column)) return *model;
+  }
   for (const ColumnFormat& columns : sheet.columnFormats) {
     if (columns.first <= column && column <= columns.last) return columns.format;
   }
@@ -240,6 +244,12 @@ void XlsWorkbook::SetCellText(std::wstring_view sheetName, int row, int column, 
   }
   sheet.cells.Put(r, c, std::move(record));
   sheet.changed = true;
+}
+
+void XlsWorkbook::SetModelRow(std::wstring_view sheetName, int row) {
+  Sheet& sheet = FindWorksheet(sheetName);
+  CheckCellRange(row, 1, kRowLimit, kColumnLimit);
+  sheet.modelRow = static_cast<uint16_t>(row - 1);
 }
 
 std::wstring XlsWorkbook::GetCellText(std::wstring_view sheetName, int row, int column) const {

@@ -4,6 +4,7 @@
 // storage is written back as it was read.
 #pragma once
 
+#include <optional>
 #include <set>
 #include <string>
 #include <vector>
@@ -25,6 +26,7 @@ class XlsWorkbook : public Workbook {
   std::vector<std::wstring> SheetNames() const override;
   void SetCellText(std::wstring_view sheet, int row, int column, std::wstring_view text) override;
   std::wstring GetCellText(std::wstring_view sheet, int row, int column) const override;
+  void SetModelRow(std::wstring_view sheet, int row) override;
   Bytes Save() const override;
 
  private:
@@ -41,6 +43,8 @@ class XlsWorkbook : public Workbook {
     biff::CellTable cells;
     std::vector<ColumnFormat> columnFormats;
     uint16_t defaultRowHeight = 0x00FF;
+    uint32_t readRowLimit = 0;  // rows below it were not in the file
+    std::optional<uint16_t> modelRow;
     bool changed = false;
   };
 

@@ -187,6 +187,12 @@ void XlsxWorkbook::SetCellText(std::wstring_view sheetName, int row, int column,
   sheet.changed = true;
 }
 
+void XlsxWorkbook::SetModelRow(std::wstring_view sheetName, int row) {
+  const Sheet& sheet = FindWorksheet(sheetName);
+  CheckCellRange(row, 1, kRowLimit, kColumnLimit);
+  sheet.cells->SetModelRow(row);
+}
+
 std::wstring XlsxWorkbook::GetCellText(std::wstring_view sheetName, int row, int column) const {
   const Sheet& sheet = FindWorksheet(sheetName);
   CheckCellRange(row, column, kRowLimit, kColumnLimit);

@@ -28,6 +28,7 @@ class XlsxWorkbook : public Workbook {
   std::vector<std::wstring> SheetNames() const override;
   void SetCellText(std::wstring_view sheet, int row, int column, std::wstring_view text) override;
   std::wstring GetCellText(std::wstring_view sheet, int row, int column) const override;
+  void SetModelRow(std::wstring_view sheet, int row) override;
   Bytes Save() const override;
 
  private:

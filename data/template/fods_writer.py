@@ -52,6 +52,17 @@ class Sheet:
     rows: dict  # row number from 1 -> list of Cell from column A
     heights: dict = field(default_factory=dict)  # row number -> centimetres
     column_styles: dict = field(default_factory=dict)  # column index from 0 -> Style
+    print_setup: "PrintSetup" = None
+
+
+@dataclass(frozen=True)
+class PrintSetup:
+    """How a sheet prints: A4, landscape or not, scaled to one page wide (as
+    many pages tall as it takes), with its first `title_rows` rows repeated
+    at the top of every page."""
+    landscape: bool = False
+    fit_to_width: bool = False
+    title_rows: int = 0
 
 
 class _Styles:
@@ -127,12 +138,32 @@ def _cell_xml(cell, styles):
     return f"<table:table-cell{attributes}>{content}</table:table-cell>{covered}"
 
 
+def _page_xml(number, setup):
+    """The page layout, table style and master page of the sheet `number`."""
+    width, height = ("29.7cm", "21cm") if setup.landscape else ("21cm", "29.7cm")
+    scale = ' style:scale-to-X="1" style:scale-to-Y="0"' if setup.fit_to_width else ""
+    layout = (f'<style:page-layout style:name="pm{number}"><style:page-layout-properties '
+              f'fo:page-width="{width}" fo:page-height="{height}" '
+              f'style:print-orientation="{"landscape" if setup.landscape else "portrait"}"{scale}/>'
+              '</style:page-layout>'
+              f'<style:style style:name="ta{number}" style:family="table" style:master-page-name="Page{number}">'
+              '<style:table-properties table:display="true"/></style:style>')
+    master = f'<style:master-page style:name="Page{number}" style:page-layout-name="pm{number}"/>'
+    return layout, master
+
+
 def fods(sheets, font="宋体", size=10):
     """The .fods text of `sheets`, every cell in `font`."""
     styles = _Styles()
     tables = []
-    for sheet in sheets:
-        parts = [f"<table:table table:name={quoteattr(sheet.name)}>"]
+    pages = []
+    for sheet_number, sheet in enumerate(sheets, start=1):
+        setup = sheet.print_setup
+        table_style = ""
+        if setup:
+            pages.append(_page_xml(sheet_number, setup))
+            table_style = f' table:style-name="ta{sheet_number}"'
+        parts = [f"<table:table table:name={quoteattr(sheet.name)}{table_style}>"]
         for index, width in enumerate(sheet.widths):
             default = sheet.column_styles.get(index)
             default = f' table:default-cell-style-name="{styles.cell(default)}"' if default else ""
@@ -142,7 +173,11 @@ def fods(sheets, font="宋体", size=10):
             height = sheet.heights.get(number)
             row_style = f' table:style-name="{styles.row(height)}"' if height else ""
             cells = "".join(_cell_xml(cell, styles) for cell in sheet.rows.get(number, []))
+            if setup and setup.title_rows and number == 1:
+                parts.append("<table:table-header-rows>")
             parts.append(f"<table:table-row{row_style}>{cells or '<table:table-cell/>'}</table:table-row>")
+            if setup and setup.title_rows and number == setup.title_rows:
+                parts.append("</table:table-header-rows>")
         if sheet.column_styles:
             # A column's default format reaches the spreadsheet's last row only
             # through cells that carry it down there.
@@ -163,8 +198,9 @@ def fods(sheets, font="宋体", size=10):
         f'<office:styles><style:default-style style:family="table-cell"><style:text-properties {font_properties}/>'
         '</style:default-style><style:style style:name="Default" style:family="table-cell">'
         f'<style:text-properties {font_properties}/></style:style></office:styles>'
-        f"<office:automatic-styles>{styles.xml()}</office:automatic-styles>"
-        f'<office:body><office:spreadsheet>{"".join(tables)}</office:spreadsheet></office:body></office:document>\n')
+        f"<office:automatic-styles>{styles.xml()}{''.join(layout for layout, _ in pages)}</office:automatic-styles>"
+        + (f"<office:master-styles>{''.join(master for _, master in pages)}</office:master-styles>" if pages else "")
+        +         f'<office:body><office:spreadsheet>{"".join(tables)}</office:spreadsheet></office:body></office:document>\n')
 
 
 def convert(source, target_dir, formats):

@@ -10,7 +10,7 @@ import sys
 
 sys.dont_write_bytecode = True  # nothing of this may be staged with data/
 
-from fods_writer import Cell, Sheet, Style, convert, fods  # noqa: E402
+from fods_writer import Cell, PrintSetup, Sheet, Style, convert, fods  # noqa: E402
 
 HERE = os.path.dirname(os.path.abspath(__file__))
 
@@ -22,11 +22,16 @@ TEXT_CELL = Style(border=True, text=True)
 NUMBER_CELL = Style(border=True, center=True)
 TEXT_COLUMN = Style(text=True)
 
+# Wide enough for the texts of the sample's bill (samples/reducer), such as
+# 图号 "GB/T 13871.1-2007", 名称 "普通平键 A10×8×40", 备注 "调质 HB241-286，齿面淬火".
 BOM_COLUMNS = [  # title, width in cm, format of the table cells
-    ("序号", 1.2, NUMBER_CELL), ("层级", 1.6, TEXT_CELL), ("图号", 3.6, TEXT_CELL), ("名称", 4.0, TEXT_CELL),
-    ("数量", 1.3, NUMBER_CELL), ("材料", 2.4, TEXT_CELL), ("重量", 1.8, NUMBER_CELL), ("总重", 1.8, NUMBER_CELL),
-    ("备注", 3.0, TEXT_CELL), ("模型名称", 3.6, TEXT_CELL)]
+    ("序号", 1.2, NUMBER_CELL), ("层级", 1.6, TEXT_CELL), ("图号", 4.2, TEXT_CELL), ("名称", 4.6, TEXT_CELL),
+    ("数量", 1.3, NUMBER_CELL), ("材料", 2.0, TEXT_CELL), ("重量", 1.8, NUMBER_CELL), ("总重", 1.8, NUMBER_CELL),
+    ("备注", 5.8, TEXT_CELL), ("模型名称", 4.2, TEXT_CELL)]
 BOM_FIRST_ROW = 4  # "BegainRow" of Excel.cfg
+# Landscape, one page wide, the title and head rows above the table on
+# every page.
+BOM_PRINT = PrintSetup(landscape=True, fit_to_width=True, title_rows=BOM_FIRST_ROW - 1)
 BOM_PAGE_ROWS = 35  # "RowNumOfPage": one page of ruled rows
 
 
@@ -44,7 +49,7 @@ def bom_sheet():
     # 图号 of "0012" stays text however long the list.
     column_styles = {index: TEXT_COLUMN for index, (_, _, style) in enumerate(BOM_COLUMNS) if style.text}
     return Sheet("bom", [width for _, width, _ in BOM_COLUMNS], rows, heights={1: 1.0, 2: 0.7, 3: 0.7},
-                 column_styles=column_styles)
+                 column_styles=column_styles, print_setup=BOM_PRINT)
 
 
 PARAM_ROWS = [  # 属性名称, 属性类型, 参数类型, 属性值, 指定, 说明

@@ -8,7 +8,9 @@
 
 #include <filesystem>
 #include <memory>
+#include <tuple>
 
+#include "BiffStructure.h"
 #include "BomExport.h"
 #include "CfgOption.h"
 #include "CodePage.h"
@@ -76,10 +78,13 @@ class BomExportTest : public testing::Test {
     platform::SetShellOpenHandler(previousShell_);
   }
 
-  void Open() {
+  void OpenWithTheSampleTexts() {
     dialog = std::make_unique<CDlgBomShow>();
     dialog->OnInitDialog();
     list = dialog->findChild<CListCtrlEx*>("BomList");
+  }
+  void Open() {
+    OpenWithTheSampleTexts();
     ASSERT_GT(list->GetItemCount(), 4);
     for (int row = 0; row < list->GetItemCount(); ++row) {
       for (int col = 0; col < list->columnCount(); ++col) list->SetItemText(row, col, CellText(row, col));
@@ -170,6 +175,47 @@ TEST_F(BomExportTest, ExcelTableStartsAtTheConfiguredCellAndIgnoresThePageLength
   cells.push_back(EmptyCell("bom", 6, 2));
   ExpectIndependentReadersAgree({{Workbook(), {}, cells}}, dir.path());
   EXPECT_EQ(opened, std::vector<std::wstring>{WorkbookPath()});
+}
+
+// The template rules rows 4 to 38; a table from row 34 runs past them.
+TEST_F(BomExportTest, RowsBelowTheTemplateTakeTheFormatsOfTheFirstTableRow) {
+  constexpr int kFirstRow = 34;
+  constexpr int kLastRuledRow = 38;
+  SetExcelCfg(L"ExcelTbl", L"BegainRow", std::to_wstring(kFirstRow));
+  Open();
+  std::vector<int> all;
+  for (int row = 0; row < list->GetItemCount(); ++row) all.push_back(row);
+  ASSERT_GT(kFirstRow + static_cast<int>(all.size()) - 1, kLastRuledRow);
+  Press(true, false);
+
+  std::vector<ExpectedCell> cells = HeadCells();
+  for (ExpectedCell cell : TableCells(all, kFirstRow, 1)) {
+    cell.formatOfTemplateRow = kFirstRow;
+    cells.push_back(cell);
+  }
+  ExpectIndependentReadersAgree({{Workbook(), fs::path(BOM_STAGE_DIR) / "template" / "BOM.xls", cells}},
+                                dir.path());
+}
+
+// In the template's font, a character outside ASCII takes the room of two
+// "0"; the column's width, in 1/256 of a "0", holds the text and one more.
+TEST_F(BomExportTest, TemplateColumnsAreWideEnoughForTheSamplesTexts) {
+  CCfgOption().SetLevelType(1);
+  OpenWithTheSampleTexts();
+  ASSERT_GT(list->GetItemCount(), 20);
+  fs::path bomTemplate = fs::path(BOM_STAGE_DIR) / "template" / "BOM.xls";
+  for (int col = 0; col < list->columnCount(); ++col) {
+    int widest = 0;
+    std::wstring widestText;
+    for (int row = 0; row < list->GetItemCount(); ++row) {
+      std::wstring text = list->GetItemText(row, col);
+      int units = 0;
+      for (wchar_t c : text) units += c < 0x80 ? 1 : 2;
+      if (units > widest) std::tie(widest, widestText) = std::tie(units, text);
+    }
+    EXPECT_GE(FirstSheetColumnWidth(bomTemplate, col + 1), (widest + 1) * 256)
+        << "column " << col + 1 << ": " << platform::ToNarrow(widestText);
+  }
 }
 
 TEST_F(BomExportTest, NothingCheckedGivesTheTemplateWithDateAndParametersOnly) {

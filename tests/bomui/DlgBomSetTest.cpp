@@ -117,6 +117,9 @@ TEST_F(DlgBomSetTest, OpensWithALineAColumnAndNothingSelected) {
   EXPECT_FALSE(Child<QPushButton>("ApplyButton")->isEnabled());
   EXPECT_EQ(Child<QComboBox>("ParamTypeCombo")->count(), 10);
   EXPECT_EQ(Child<QComboBox>("ParamTypeCombo")->itemText(7), "父元件名称");
+  // The drop-downs show no column before the first selection.
+  for (const char* combo : {"EditTypeCombo", "ParamNameCombo", "ParamTypeCombo", "ValueTypeCombo"})
+    EXPECT_EQ(Child<QComboBox>(combo)->currentText(), "") << combo;
 }
 
 TEST_F(DlgBomSetTest, LeavingAColumnStoresItsChangesWithoutApply) {

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "BiffStructure.h"
 #include "CodePage.h"
 #include "ReadBack.h"
 #include "Shell.h"
@@ -102,10 +103,12 @@ TEST_F(ExcelAppTest, OpenedWorkbookReadsItsCells) {
 
 TEST_F(ExcelAppTest, BomTemplateTakesTheOutputOfFiveHundredRows) {
   // The layout of data/config/Excel.cfg: date J2, 图号 C2, 名称 F2, table from
-  // A4, ten columns, all rows on the one sheet.
+  // A4, ten columns, all rows on the one sheet. Rows past the template's
+  // ruled ones look like its first table row.
   ExcelApp excel;
   ASSERT_EQ(excel.StartExcel(1), 1);
   ASSERT_EQ(excel.NewFromTemplate(Wide(kTemplates / "BOM.xls")), 1);
+  ASSERT_EQ(excel.SetModelRow(L"bom", 4), 1);
   std::vector<ExpectedCell> cells;
   excel.SetCellText(L"bom", 2, 10, L"2024.05.06");
   excel.SetCellText(L"bom", 2, 3, L"0012");
@@ -131,6 +134,7 @@ TEST_F(ExcelAppTest, BomTemplateTakesTheOutputOfFiveHundredRows) {
     cells.push_back(NumberCell("bom", row, 8, 2.5, "2.5"));
     cells.push_back(TextCell("bom", row, 9, "自制"));
     cells.push_back(TextCell("bom", row, 10, "SHAFT_" + n));
+    for (auto cell = cells.end() - 10; cell != cells.end(); ++cell) cell->formatOfTemplateRow = 4;
   }
   excel.SaveWorkbookAs(dir_.Wide(), L"减速器_零件明细");
   excel.CloseAll();
@@ -138,6 +142,17 @@ TEST_F(ExcelAppTest, BomTemplateTakesTheOutputOfFiveHundredRows) {
   fs::path file = dir_.path() / "减速器_零件明细.xls";
   ASSERT_TRUE(fs::exists(file));
   ExpectIndependentReadersAgree({{file, kTemplates / "BOM.xls", cells}}, dir_.path());
+}
+
+TEST(DeliveredBomTemplate, PrintsLandscapeOnePageWideWithTheHeadRowsOnEveryPage) {
+  BiffPrintSetup setup = FirstSheetPrintSetup(kTemplates / "BOM.xls");
+  EXPECT_TRUE(setup.landscape);
+  EXPECT_TRUE(setup.fitToPage);
+  EXPECT_EQ(setup.fitWidth, 1);
+  EXPECT_EQ(setup.fitHeight, 0);
+  // The title, the head cells and the column titles above the table at A4.
+  EXPECT_EQ(setup.titleFirstRow, 1);
+  EXPECT_EQ(setup.titleLastRow, 3);
 }
 
 TEST_F(ExcelAppTest, FileAccessibleTellsWhetherTheFileExists) {

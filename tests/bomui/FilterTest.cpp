@@ -119,6 +119,26 @@ TEST_F(FilterDialogTest, BomFilterSetShowsSchemeAfterDelayAndApplyWritesIt) {
   EXPECT_EQ(list->currentRow(), -1);
 }
 
+// The first row is selected at opening, yet the fields wait for a click,
+// also a click on that same row.
+TEST_F(FilterDialogTest, BomFilterSetOpensWithEmptyFieldsUntilARowIsClicked) {
+  CDlgBomFilterSet dialog;
+  dialog.show();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&dialog));
+  auto* list = dialog.findChild<QListWidget*>("SchemeList");
+  auto* name = dialog.findChild<QLineEdit*>("NameEdit");
+  EXPECT_EQ(list->currentRow(), 0);
+  QTest::qWait(300);
+  EXPECT_EQ(name->text(), "");
+  EXPECT_EQ(dialog.findChild<QComboBox*>("ParamCombo")->currentText(), "");
+  EXPECT_EQ(dialog.findChild<QComboBox*>("ShowCombo")->currentText(), "");
+
+  QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(0)).center());
+  EXPECT_TRUE(QTest::qWaitFor([&] { return name->text() == QString("全部显示"); }, 2000));
+  EXPECT_EQ(dialog.findChild<QComboBox*>("ParamCombo")->currentText(), "模型名称");
+  EXPECT_EQ(dialog.findChild<QComboBox*>("ShowCombo")->currentText(), "屏蔽");
+}
+
 TEST_F(FilterDialogTest, FilterDialogGivesTheValuesToTakeOut) {
   CDlgFilter dialog;
   dialog.SetFilterColumns(

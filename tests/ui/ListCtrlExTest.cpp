@@ -4,6 +4,7 @@
 #include <QHeaderView>
 #include <QScrollBar>
 #include <QSignalSpy>
+#include <QStyledItemDelegate>
 #include <QTest>
 #include <QTextEdit>
 
@@ -185,6 +186,19 @@ TEST_F(ListCtrlExTest, HeaderClickSortsAsTextThenReversesOnSecondClick) {
   EXPECT_EQ(Column(1), (std::vector<std::wstring>{L"螺栓", L"9", L"2", L"10"}));
 }
 
+// Column 3 is written in two rows only; the others have no cell there.
+TEST_F(ListCtrlExTest, NeverWrittenCellSortsAsAnEmptyText) {
+  list->InsertColumn(3, L"备注", 80);
+  list->SetItemText(1, 3, L"b");
+  list->SetItemText(3, 3, L"a");
+  list->EnableSort(1);
+  ClickHeader(3);
+  EXPECT_EQ(Column(3), (std::vector<std::wstring>{L"", L"", L"a", L"b"}));
+  EXPECT_EQ(Column(0), (std::vector<std::wstring>{L"1", L"3", L"4", L"2"}));
+  ClickHeader(3);
+  EXPECT_EQ(Column(3), (std::vector<std::wstring>{L"b", L"a", L"", L""}));
+}
+
 TEST_F(ListCtrlExTest, ClickOnAnotherHeaderSortsAscending) {
   list->EnableSort(1);
   ClickHeader(0);
@@ -210,6 +224,49 @@ TEST_F(ListCtrlExTest, ChecksAndImagesTravelWithTheirRows) {
   EXPECT_FALSE(list->GetCheck(0));
   EXPECT_TRUE(list->GetCheck(1));
   EXPECT_FALSE(list->item(1, 0)->icon().isNull());
+}
+
+// Where the list's style puts a cell's text, with the cell's check box and
+// image as the list draws them.
+class CellLayoutProbe : public CListCtrlEx {
+ public:
+  QRect TextRect(int row, int col) const {
+    QModelIndex index = model()->index(row, col);
+    QStyleOptionViewItem option;
+    initViewItemOption(&option);
+    option.rect = visualRect(index);
+    option.widget = this;
+    ItemOption().Fill(&option, index);
+    return style()->subElementRect(QStyle::SE_ItemViewItemText, &option, this);
+  }
+
+ private:
+  struct ItemOption : QStyledItemDelegate {
+    void Fill(QStyleOptionViewItem* option, const QModelIndex& index) const {
+      initStyleOption(option, index);
+    }
+  };
+};
+
+// The width of the BOM list's first column in the delivered Tbl.cfg.
+TEST(ListCtrlExLayout, ThreeDigitRowNumberReadsWholeBesideCheckBoxAndImage) {
+  CellLayoutProbe list;
+  list.resize(300, 200);
+  list.InsertColumn(0, L"序号", 50);
+  list.InsertColumn(1, L"名称", 100);
+  list.InsertItem(0, L"128", 14);
+  list.SetItemText(0, 1, L"齿轮轴");
+  list.InsertItem(1, L"129", 15);
+  list.SetCheck(0, true);
+  list.show();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&list));
+
+  // The style draws the text inside its rectangle less a margin each side.
+  QRect text = list.TextRect(0, 0);
+  int margin = list.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &list) + 1;
+  QRect cell = list.visualRect(list.model()->index(0, 0));
+  EXPECT_GE(text.width() - 2 * margin, list.fontMetrics().horizontalAdvance("128"));
+  EXPECT_LE(text.right(), cell.right());
 }
 
 TEST(ListSort, ComparesNarrowTextCutTo259Bytes) {

@@ -277,7 +277,65 @@ class Checker {
   std::ostringstream problems_;
 };
 
+// Calls `visit(substream, type, data)` for the records of the globals
+// (substream 0) and of the first sheet (1).
+template <typename Visit>
+void VisitGlobalsAndFirstSheet(const fs::path& xls, Visit visit) {
+  constexpr uint16_t kBof = 0x0809;
+  constexpr uint16_t kEof = 0x000A;
+  std::string stream = CompoundFileParts(xls)["Workbook"];
+  int substream = -1;
+  for (size_t at = 0; at + 4 <= stream.size();) {
+    uint16_t type = U16(stream, at);
+    std::string data = stream.substr(at + 4, U16(stream, at + 2));
+    at += 4 + data.size();
+    if (type == kBof) ++substream;
+    visit(substream, type, data);
+    if (type == kEof && substream == 1) return;
+  }
+}
+
 }  // namespace
+
+BiffPrintSetup FirstSheetPrintSetup(const fs::path& xls) {
+  constexpr uint16_t kSetup = 0x00A1;
+  constexpr uint16_t kWsBool = 0x0081;
+  constexpr uint16_t kName = 0x0018;
+  constexpr uint16_t kNameBuiltIn = 0x0020;
+  constexpr char kPrintTitles = 0x07;
+  constexpr uint8_t kPtgArea3d = 0x3B;
+  BiffPrintSetup setup;
+  VisitGlobalsAndFirstSheet(xls, [&](int substream, uint16_t type, const std::string& data) {
+    if (substream == 0 && type == kName && data.size() >= 15 && (U16(data, 0) & kNameBuiltIn) &&
+        data[3] == 1 && U16(data, 8) == 1) {
+      size_t nameSize = data[14] & 1 ? 2 : 1;
+      size_t formula = 15 + nameSize;
+      if (data[15] == kPrintTitles && data.size() >= formula + 11 &&
+          static_cast<uint8_t>(data[formula]) == kPtgArea3d) {
+        setup.titleFirstRow = U16(data, formula + 3) + 1;
+        setup.titleLastRow = U16(data, formula + 5) + 1;
+      }
+    } else if (substream == 1 && type == kWsBool) {
+      setup.fitToPage = U16(data, 0) & 0x0100;
+    } else if (substream == 1 && type == kSetup) {
+      uint16_t flags = U16(data, 10);
+      setup.landscape = !(flags & 0x0004) && !(flags & 0x0002);
+      setup.fitWidth = U16(data, 6);
+      setup.fitHeight = U16(data, 8);
+    }
+  });
+  return setup;
+}
+
+int FirstSheetColumnWidth(const fs::path& xls, int column) {
+  constexpr uint16_t kColInfo = 0x007D;
+  int width = -1;
+  VisitGlobalsAndFirstSheet(xls, [&](int substream, uint16_t type, const std::string& data) {
+    if (substream == 1 && type == kColInfo && U16(data, 0) < column && column <= U16(data, 2) + 1)
+      width = U16(data, 4);
+  });
+  return width;
+}
 
 std::string BiffStructureProblems(const fs::path& xls) {
   std::map<std::string, std::string> parts = CompoundFileParts(xls);

@@ -14,3 +14,18 @@
 // the first ROW and at each row's first cell, DIMENSIONS holding every cell,
 // SST counts (unique strings, LABELSST cells) and EXTSST offsets.
 std::string BiffStructureProblems(const std::filesystem::path& xls);
+
+// How the first sheet of an .xls prints: its SETUP and WSBOOL records and the
+// built-in name Print_Titles of that sheet.
+struct BiffPrintSetup {
+  bool landscape = false;  // SETUP valid (fNoPls clear) and not fPortrait
+  bool fitToPage = false;  // WSBOOL's fFitToPage
+  int fitWidth = -1;       // SETUP's pages wide and tall (0: as many as it takes)
+  int fitHeight = -1;
+  int titleFirstRow = -1;  // the rows Print_Titles repeats, from 1; -1 without
+  int titleLastRow = -1;
+};
+BiffPrintSetup FirstSheetPrintSetup(const std::filesystem::path& xls);
+// The width of a column (from 1) of the first sheet, in 1/256 of the width of
+// the default font's "0", by its COLINFO record; -1 without one.
+int FirstSheetColumnWidth(const std::filesystem::path& xls, int column);

@@ -86,6 +86,7 @@ std::string PythonReaderProblems(const WrittenFile& written, const fs::path& wor
     entry["value"] = cell.kind == ExpectedCell::Kind::Text     ? nlohmann::json(cell.text)
                      : cell.kind == ExpectedCell::Kind::Number ? nlohmann::json(cell.number)
                                                                : nlohmann::json(nullptr);
+    if (cell.formatOfTemplateRow) entry["format_of_row"] = cell.formatOfTemplateRow;
     expectations["cells"].push_back(entry);
   }
   fs::path json = workDir / (written.file.filename().string() + ".expected.json");

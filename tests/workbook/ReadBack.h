@@ -16,6 +16,9 @@ struct ExpectedCell {
   Kind kind = Kind::Text;
   std::string text;  // the text, or the number as LibreOffice prints it
   double number = 0;
+  // Nonzero: the cell's format index is that of the template's cell in this
+  // row and the same column.
+  int formatOfTemplateRow = 0;
 };
 
 struct WrittenFile {

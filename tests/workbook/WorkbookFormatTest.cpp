@@ -167,6 +167,34 @@ TYPED_TEST(WorkbookFormatTest, OverwrittenCellsKeepTheirFormatAndTheirNeighbours
                        *book);
 }
 
+// Row 5 holds two cells formatted as text with borders, and nothing from
+// column C on; the template's rows end at 7.
+TYPED_TEST(WorkbookFormatTest, NewRowsBelowTheTemplateTakeTheModelRowsFormats) {
+  auto book = this->OpenTemplate();
+  book->SetModelRow(kSheet, 5);
+  std::vector<ExpectedCell> cells;
+  for (int row : {8, 9, 500}) {
+    book->SetCellText(kSheet, row, 1, L"17");
+    book->SetCellText(kSheet, row, 2, L"0042");
+    book->SetCellText(kSheet, row, 3, L"3");
+    cells.push_back(TextCell(kSheetUtf8, row, 1, "17"));
+    cells.back().formatOfTemplateRow = 5;
+    cells.push_back(TextCell(kSheetUtf8, row, 2, "0042"));
+    cells.back().formatOfTemplateRow = 5;
+    cells.push_back(NumberCell(kSheetUtf8, row, 3, 3, "3"));
+  }
+  EXPECT_THROW(book->SetModelRow(L"no such sheet", 5), workbook::Error);
+  EXPECT_THROW(book->SetModelRow(kSheet, 0), workbook::Error);
+  fs::path file = this->SaveAs(*book, "model_row");
+  this->ExpectReadBack(file, cells, *book);
+
+  // An empty row of the template does not follow the model.
+  auto inside = this->OpenTemplate();
+  inside->SetModelRow(kSheet, 5);
+  inside->SetCellText(kSheet, 6, 1, L"0042");
+  EXPECT_EQ(inside->GetCellText(kSheet, 6, 1), L"42");
+}
+
 TYPED_TEST(WorkbookFormatTest, LargeTableWithLongTextsReadsBackEverywhere) {
   auto book = this->OpenTemplate();
   std::vector<ExpectedCell> cells;

@@ -77,6 +77,10 @@ def main():
             problems.append(f"{key}: expected {cell['kind']} {cell['value']!r}, read {kind} {value!r}")
         if key in template and template[key][2] != style:
             problems.append(f"{key}: format index {style}, the template's {template[key][2]}")
+        if "format_of_row" in cell:
+            model = template.get((cell["sheet"], cell["format_of_row"], cell["column"]), (None, None, None))[2]
+            if model is None or model != style:
+                problems.append(f"{key}: format index {style}, the template's row {cell['format_of_row']} {model}")
         if "style" in cell and cell["style"] != style:
             problems.append(f"{key}: format index {style}, expected {cell['style']}")
     for key, was in template.items():  # cells, and row heights under (sheet, "row height", row)
