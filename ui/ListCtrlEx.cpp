@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QHeaderView>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QProxyStyle>
 #include <QStyleFactory>
 #include <QStyledItemDelegate>
@@ -66,13 +67,14 @@ class CompactCellStyle : public QProxyStyle {
   }
 };
 
-// One for all lists, owned by the application.
+// One for all lists, owned by the application: a later application makes
+// its own.
 QStyle* CompactStyle() {
-  static QStyle* style = [] {
-    auto* compact = new CompactCellStyle(QStyleFactory::create(QApplication::style()->name()));
-    compact->setParent(qApp);
-    return compact;
-  }();
+  static QPointer<QStyle> style;
+  if (!style) {
+    style = new CompactCellStyle(QStyleFactory::create(QApplication::style()->name()));
+    style->setParent(qApp);
+  }
   return style;
 }
 
