@@ -32,7 +32,7 @@ class GuiJobTest : public testing::Test {
   // The other jobs run without a display; this one is given the offscreen one.
   // A job that waits for nobody ends long before `timeout` stops it.
   int Workbench(const std::string& arguments) {
-    return RunJob(dir_, "gui", arguments, "QT_QPA_PLATFORM=offscreen timeout 300").exitCode;
+    return RunJob(dir_, "gui", arguments, "QT_QPA_PLATFORM=offscreen timeout 120").exitCode;
   }
 
   TestDir dir_;
