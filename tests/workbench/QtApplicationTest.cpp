@@ -3,7 +3,10 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QDialogButtonBox>
+#include <QFileDialog>
 #include <QMessageBox>
+#include <QPushButton>
 
 #include <cstdlib>
 #include <optional>
@@ -45,6 +48,14 @@ TEST(QtApplicationTest, WithoutADisplayItRunsOffscreenAndQtsOwnButtonsSpeakChine
   QMessageBox box(QMessageBox::Question, "提示", "是否打开？", QMessageBox::Yes | QMessageBox::No);
   EXPECT_EQ(box.button(QMessageBox::Yes)->text(), "是(&Y)");
   EXPECT_EQ(box.button(QMessageBox::No)->text(), "否(&N)");
+  // The directory chooser as the workbench shows it: Qt's own dialog.
+  QFileDialog chooser;
+  chooser.setOption(QFileDialog::DontUseNativeDialog);
+  chooser.setFileMode(QFileDialog::Directory);
+  auto* buttons = chooser.findChild<QDialogButtonBox*>();
+  ASSERT_NE(buttons, nullptr);
+  EXPECT_EQ(buttons->button(QDialogButtonBox::Cancel)->text(), "取消");
+  EXPECT_EQ(buttons->button(QDialogButtonBox::Open)->text(), "选择(&C)");
 }
 
 }  // namespace
