@@ -101,17 +101,22 @@ int WriteBomExcel(const BomOutputTarget& target, const BomCheckedRows& rows) {
     Tell(L"新建Excel失败");
     return 0;
   }
-  WriteHeadCells(excel, sheet, current);
-  // A bill longer than the template's ruled rows keeps their borders and font.
-  if (!rows.empty()) excel.SetModelRow(sheet, firstRow);
-  int targetRow = firstRow;
-  for (const std::vector<std::wstring>& cells : rows) {
-    for (int col = 0; col < static_cast<int>(cells.size()); ++col) {
-      excel.SetCellText(sheet, targetRow, firstCol + col, cells[col]);
+  try {
+    WriteHeadCells(excel, sheet, current);
+    // A bill longer than the template's ruled rows keeps their borders and font.
+    if (!rows.empty()) excel.SetModelRow(sheet, firstRow);
+    int targetRow = firstRow;
+    for (const std::vector<std::wstring>& cells : rows) {
+      for (int col = 0; col < static_cast<int>(cells.size()); ++col) {
+        excel.SetCellText(sheet, targetRow, firstCol + col, cells[col]);
+      }
+      ++targetRow;
     }
-    ++targetRow;
+    excel.SaveWorkbookAs(dir, target.fileName);
+  } catch (const workbook::Error& error) {
+    // A cell's failure does not say which output it broke off.
+    throw workbook::Error(MessageNamingFile(platform::ResolvePath(path), error.what()));
   }
-  excel.SaveWorkbookAs(dir, target.fileName);
   excel.CloseAll();
   OfferToOpen(excel, path);
   return 1;

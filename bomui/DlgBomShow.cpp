@@ -13,15 +13,19 @@
 
 #include "BomDrawing.h"
 #include "BomListCells.h"
+#include "CodePage.h"
 #include "DialogLayout.h"
 #include "DlgBomFilterSet.h"
 #include "DlgFilter.h"
 #include "DlgLoad.h"
 #include "FilterRules.h"
 #include "ListCtrlEx.h"
+#include "MessageBox.h"
 #include "ProMdl.h"
 #include "ProMenu.h"
 #include "WindowRules.h"
+
+#include <exception>
 
 namespace {
 
@@ -386,9 +390,16 @@ void CDlgBomShow::OnExport() {
   if (option_.GetSaveParamBeforExport()) SaveListParams();
   int type = 0;
   model_.GetCurMdlType(type);
-  if (drawingCheck_->isChecked() && type == CTkModel::kDrawing) ExportToDrawing(rowCount);
-  if (excelCheck_->isChecked()) ExportToExcel(rowCount);
-  if (textCheck_->isChecked()) ExportToText(rowCount);
+  // A spreadsheet failure breaks the outputs off where it happens; the user
+  // is told its text, as the framework reports what reaches a handler, and
+  // the dialog stays.
+  try {
+    if (drawingCheck_->isChecked() && type == CTkModel::kDrawing) ExportToDrawing(rowCount);
+    if (excelCheck_->isChecked()) ExportToExcel(rowCount);
+    if (textCheck_->isChecked()) ExportToText(rowCount);
+  } catch (const std::exception& error) {
+    log_.ShowPrompt(platform::ToWide(error.what()), L"提示", platform::kMbOk, nullptr, 0);
+  }
 }
 
 void CDlgBomShow::OnSaveParams() {

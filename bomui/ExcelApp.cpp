@@ -1,8 +1,10 @@
 #include "ExcelApp.h"
 
+#include <exception>
 #include <fstream>
 
 #include "CodePage.h"
+#include "DebugOutput.h"
 #include "Files.h"
 #include "Shell.h"
 
@@ -12,7 +14,17 @@ std::wstring ExtensionOf(workbook::Format format) {
   return format == workbook::Format::Xlsx ? L".xlsx" : L".xls";
 }
 
+// Why a workbook did not open, which the result alone does not say.
+void TellWhyNotOpened(const std::filesystem::path& file, const std::string& reason) {
+  platform::OutputDebugString(L"ExcelApp: " + platform::ToWide(MessageNamingFile(file, reason)));
+}
+
 }  // namespace
+
+std::string MessageNamingFile(const std::filesystem::path& file, const std::string& message) {
+  if (message.find(file.string()) != std::string::npos) return message;
+  return file.string() + ": " + message;
+}
 
 ExcelApp::ExcelApp() = default;
 
@@ -24,16 +36,24 @@ int ExcelApp::StartExcel(int /*visible*/) {
 }
 
 int ExcelApp::OpenWorkbook(const std::wstring& path) {
+  std::filesystem::path file = platform::ResolvePath(path);
   try {
-    workbook_ = workbook::OpenWorkbook(platform::ResolvePath(path));
-  } catch (const workbook::Error&) {
+    workbook_ = workbook::OpenWorkbook(file);
+  } catch (const std::exception& error) {
+    // Besides its own errors, the engine lets a stream's failure through
+    // (reading a directory, say).
+    TellWhyNotOpened(file, error.what());
     return 0;
   }
   return 1;
 }
 
 int ExcelApp::NewFromTemplate(const std::wstring& templatePath) {
-  if (!started_ || !FileAccessible(templatePath)) return 0;
+  if (!started_) return 0;
+  if (!FileAccessible(templatePath)) {
+    TellWhyNotOpened(platform::ResolvePath(templatePath), "no such file");
+    return 0;
+  }
   return OpenWorkbook(templatePath);
 }
 

@@ -11,13 +11,18 @@
 // SaveWorkbookAs throws workbook::Error (a missing sheet, a cell out of range,
 // no workbook, a file that cannot be written), so the running output breaks
 // off and nothing is saved. StartExcel, OpenWorkbook and NewFromTemplate
-// report by their result.
+// report by their result; why a workbook did not open goes to the debug
+// output as "ExcelApp: " + the file + ": " + the reason.
 #pragma once
 
+#include <filesystem>
 #include <memory>
 #include <string>
 
 #include "Workbook.h"
+
+// The engine's message with the file in front, unless it names it already.
+std::string MessageNamingFile(const std::filesystem::path& file, const std::string& message);
 
 class ExcelApp {
  public:

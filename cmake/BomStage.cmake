@@ -1,10 +1,10 @@
-# bom_stage_tree(<target> SOURCE <dir> DESTINATION <dir> [EXCLUDE <regex>...])
-# Copies the files below SOURCE's subfolders into DESTINATION whenever one of
-# them changes, so that programs and tests work on a copy and never write into
-# the source tree. Files directly in SOURCE (its CMakeLists.txt, say) and files
-# matching an EXCLUDE regex stay behind.
+# bom_stage_tree(<target> SOURCE <dir> DESTINATION <dir>... [EXCLUDE <regex>...])
+# Copies the files below SOURCE's subfolders into each DESTINATION whenever one
+# of them changes, so that programs and tests work on a copy and never write
+# into the source tree. Files directly in SOURCE (its CMakeLists.txt, say) and
+# files matching an EXCLUDE regex stay behind.
 function(bom_stage_tree target)
-  cmake_parse_arguments(ARG "" "SOURCE;DESTINATION" "EXCLUDE" ${ARGN})
+  cmake_parse_arguments(ARG "" "SOURCE" "DESTINATION;EXCLUDE" ${ARGN})
   if(ARG_UNPARSED_ARGUMENTS OR NOT ARG_SOURCE OR NOT ARG_DESTINATION)
     message(FATAL_ERROR "bom_stage_tree: SOURCE and DESTINATION are required")
   endif()
@@ -18,8 +18,10 @@ function(bom_stage_tree target)
   set(sources "")
   foreach(file IN LISTS files)
     list(APPEND sources ${ARG_SOURCE}/${file})
-    list(APPEND copies COMMAND ${CMAKE_COMMAND} -E copy_if_different ${ARG_SOURCE}/${file}
-         ${ARG_DESTINATION}/${file})
+    foreach(destination IN LISTS ARG_DESTINATION)
+      list(APPEND copies COMMAND ${CMAKE_COMMAND} -E copy_if_different ${ARG_SOURCE}/${file}
+           ${destination}/${file})
+    endforeach()
   endforeach()
 
   set(stamp ${CMAKE_CURRENT_BINARY_DIR}/${target}.stamp)

@@ -2,7 +2,8 @@ include(GoogleTest)
 
 # bom_add_test(NAME <exe> SOURCES <files...> LIBS <targets...> [NEEDS_GUI] [LABELS <labels...>])
 # Builds one GoogleTest executable and registers each of its tests with CTest.
-# NEEDS_GUI runs it on Qt's offscreen platform.
+# NEEDS_GUI runs it on Qt's offscreen platform. BOM_STAGE_DIR and
+# BOM_SAMPLES_DIR name the tests' own pristine stage, never the workbench's.
 function(bom_add_test)
   cmake_parse_arguments(ARG "NEEDS_GUI" "NAME" "SOURCES;LIBS;LABELS" ${ARGN})
   if(ARG_UNPARSED_ARGUMENTS)
@@ -15,8 +16,8 @@ function(bom_add_test)
   target_link_libraries(${ARG_NAME} PRIVATE ${ARG_LIBS} GTest::gtest GTest::gtest_main GTest::gmock)
   target_compile_definitions(${ARG_NAME} PRIVATE
     BOM_SOURCE_DIR="${PROJECT_SOURCE_DIR}"
-    BOM_STAGE_DIR="${BOM_STAGE_DIR}"
-    BOM_SAMPLES_DIR="${BOM_SAMPLES_DIR}")
+    BOM_STAGE_DIR="${BOM_TEST_STAGE_DIR}"
+    BOM_SAMPLES_DIR="${BOM_TEST_SAMPLES_DIR}")
   # What a test sends to the trash lands in the build tree, never in the
   # user's own trash.
   set(env "XDG_DATA_HOME=${CMAKE_BINARY_DIR}/test-data-home")

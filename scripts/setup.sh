@@ -10,8 +10,8 @@ packages=(
   # the spreadsheet engine, and the independent readers its tests use
   libgsf-1-dev libpugixml-dev
   python3-xlrd python3-openpyxl libreoffice-calc-nogui fonts-wqy-zenhei
-  # the dialogs and the workbench's window
-  qt6-base-dev
+  # the dialogs and the workbench's window, Qt's own texts in Chinese
+  qt6-base-dev qt6-translations-l10n
 )
 
 missing=()

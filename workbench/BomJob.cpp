@@ -8,15 +8,17 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-#include <cstdlib>
-#include <exception>
 #include <filesystem>
+#include <memory>
+#include <vector>
 
 #include "CodePage.h"
+#include "DebugOutput.h"
 #include "Files.h"
 #include "HostControl.h"
 #include "Inspection.h"
 #include "MessageBox.h"
+#include "QtApplication.h"
 
 namespace {
 
@@ -25,7 +27,9 @@ const wchar_t kOverwriteQuestion[] = L" 已经存在，是否覆盖？";
 const wchar_t kOpenQuestionHead[] = L"是否打开：";
 const wchar_t kOpenQuestionTail[] = L" ？";
 
-bool HasDisplay() { return std::getenv("DISPLAY") || std::getenv("WAYLAND_DISPLAY"); }
+// The spreadsheet's reason why a workbook did not open, told to the debug
+// output behind this prefix.
+const wchar_t kExcelDebugPrefix[] = L"ExcelApp: ";
 
 // The open question follows every file an output wrote and names it.
 std::optional<std::wstring> WrittenFileOf(const std::wstring& question) {
@@ -38,15 +42,19 @@ std::optional<std::wstring> WrittenFileOf(const std::wstring& question) {
 }
 
 // Yes only to the overwrite question and only when the options allow it:
-// nothing is opened, and a question the job does not know is declined.
-platform::MessageBoxHandler AnsweringPrompts(bool overwrite, std::ostream& out) {
-  return [overwrite, &out](const platform::MessageBoxRequest& request) {
+// nothing is opened, and a question the job does not know is declined. The
+// outputs show a notice only when they fail; each is kept in `notices`.
+platform::MessageBoxHandler AnsweringPrompts(bool overwrite, std::ostream& out,
+                                             std::vector<std::wstring>& notices) {
+  return [overwrite, &out, &notices](const platform::MessageBoxRequest& request) {
     int answer = platform::kIdOk;
     std::string said = "ok";
     if (request.flags == platform::kMbYesNo) {
       bool yes = overwrite && request.text.ends_with(kOverwriteQuestion);
       answer = yes ? platform::kIdYes : platform::kIdNo;
       said = yes ? "yes" : "no";
+    } else {
+      notices.push_back(request.text);
     }
     out << "prompt " << platform::ToNarrow(request.caption) << ": " << platform::ToNarrow(request.text)
         << " -> " << said << "\n";
@@ -128,6 +136,38 @@ bool SetControls(const BomOptions& options, ControlSetter& setter) {
   return !options.name || setter.Type("FileNameEdit", *options.name);
 }
 
+bool IsChecked(QDialog* dialog, const char* name) {
+  auto* box = dialog->findChild<QCheckBox*>(name);
+  return box && box->isEnabled() && box->isChecked();
+}
+
+bool ChecksAnOutput(QDialog* dialog) {
+  return IsChecked(dialog, "ExcelCheck") || IsChecked(dialog, "TextCheck") ||
+         IsChecked(dialog, "DrawingCheck");
+}
+
+// Presses "输出" and tells on `err` each output that broke off, with the
+// spreadsheet's reason where it gave one; false then.
+bool Export(ControlSetter& setter, std::vector<std::wstring>& notices, std::ostream& err) {
+  std::vector<std::wstring> reasons;
+  platform::DebugSink previous = platform::SetDebugSink([&reasons, &previous](std::wstring_view text) {
+    if (text.starts_with(kExcelDebugPrefix)) {
+      reasons.emplace_back(text.substr(std::wstring_view(kExcelDebugPrefix).size()));
+    } else if (previous) {
+      previous(text);
+    }
+  });
+  notices.clear();
+  bool clicked = setter.Click("ExportButton");
+  platform::SetDebugSink(previous);
+  for (const std::wstring& notice : notices)
+    err << "bom-workbench: the output broke off: " << platform::ToNarrow(notice) << "\n";
+  if (!notices.empty()) {
+    for (const std::wstring& reason : reasons) err << "bom-workbench: " << platform::ToNarrow(reason) << "\n";
+  }
+  return clicked && notices.empty();
+}
+
 ProMdl CurrentModel() {
   for (const sim::WindowInfo& window : sim::Windows()) {
     if (window.id == sim::CurrentWindow()) return window.model;
@@ -154,10 +194,10 @@ bool SaveChangedDrawing(const std::filesystem::path& workdir, std::ostream& out,
 
 int RunBomJob(const BomOptions& options, const std::filesystem::path& workdir, std::ostream& out,
               std::ostream& err, int argc, char* argv[]) {
-  if (!HasDisplay() && !std::getenv("QT_QPA_PLATFORM")) setenv("QT_QPA_PLATFORM", "offscreen", 1);
-  QApplication app(argc, argv);
+  std::unique_ptr<QApplication> app = StartQtApplication(argc, argv);
+  std::vector<std::wstring> notices;
   platform::MessageBoxHandler previous =
-      platform::SetMessageBoxHandler(AnsweringPrompts(options.overwrite, out));
+      platform::SetMessageBoxHandler(AnsweringPrompts(options.overwrite, out, notices));
   struct Restore {
     platform::MessageBoxHandler handler;
     ~Restore() { platform::SetMessageBoxHandler(handler); }
@@ -174,13 +214,14 @@ int RunBomJob(const BomOptions& options, const std::filesystem::path& workdir, s
     return 1;
   }
   ControlSetter setter(dialog, err);
+  if (options.pick) sim::PushAnswer("ProMousePickGet", *options.pick);
   int exitCode = 0;
-  try {
-    if (options.pick) sim::PushAnswer("ProMousePickGet", *options.pick);
-    if (!SetControls(options, setter) || !setter.Click("ExportButton")) exitCode = 1;
-    if (exitCode == 0 && options.drawing && !SaveChangedDrawing(workdir, out, err)) exitCode = 1;
-  } catch (const std::exception& error) {
-    err << "bom-workbench: the output broke off: " << error.what() << "\n";
+  if (!SetControls(options, setter)) {
+    exitCode = 1;
+  } else if (!ChecksAnOutput(dialog)) {
+    err << "bom-workbench: no output box is checked (--excel, --text, --drawing): nothing was written\n";
+    exitCode = 1;
+  } else if (!Export(setter, notices, err) || (options.drawing && !SaveChangedDrawing(workdir, out, err))) {
     exitCode = 1;
   }
   dialog->close();

@@ -25,8 +25,8 @@ struct BomOptions {
 };
 
 // Makes the application (offscreen without a display) and runs the job; 0,
-// or 1 when the command or a control is missing or an output broke off, the
-// reason on `err`. A drawing that got a table is saved into `workdir`,
+// or 1 when the command or a control is missing, no output box is checked or
+// an output broke off, the reason on `err`. A drawing that got a table is saved into `workdir`,
 // leaving the session's files as they are.
 int RunBomJob(const BomOptions& options, const std::filesystem::path& workdir, std::ostream& out,
               std::ostream& err, int argc, char* argv[]);

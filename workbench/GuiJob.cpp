@@ -1,18 +1,26 @@
 #include "GuiJob.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QPainter>
+#include <QProgressBar>
+#include <QTimer>
 
 #include <iostream>
+#include <memory>
+#include <optional>
 
 #include "FileDialog.h"
 #include "HostChoosers.h"
 #include "MainWindow.h"
 #include "MessageBox.h"
+#include "QtApplication.h"
 #include "QtFileDialog.h"
 #include "QtMessageBox.h"
 
 namespace {
+
+constexpr int kWatchMs = 50;
 
 // The main window with the plug-in's visible windows to its right, as they
 // stand beside it on a screen.
@@ -38,10 +46,23 @@ QImage GrabWindows(QWidget* main) {
   return image;
 }
 
+// A modal dialog with a progress bar is at work and closes itself; any other
+// waits for the user.
+bool WaitsForTheUser(QWidget* modal) {
+  auto* dialog = qobject_cast<QDialog*>(modal);
+  return dialog && !dialog->findChild<QProgressBar*>();
+}
+
+bool SaveScreenshot(QWidget* main, const std::string& file) {
+  if (GrabWindows(main).save(QString::fromStdString(file), "PNG")) return true;
+  std::cerr << "bom-workbench: cannot write " << file << "\n";
+  return false;
+}
+
 }  // namespace
 
 int RunGui(const GuiOptions& options, int argc, char* argv[]) {
-  QApplication app(argc, argv);
+  std::unique_ptr<QApplication> app = StartQtApplication(argc, argv);
   InstallQtMessageBoxHandler();
   InstallQtFileDialogHandler();
   InstallHostChoosers();
@@ -55,17 +76,30 @@ int RunGui(const GuiOptions& options, int argc, char* argv[]) {
   } uninstall;
   MainWindow window;
   window.show();
+  // Nobody answers a dialog that an action opens and waits on: the picture is
+  // taken as it shows, then every such dialog is cancelled so that the
+  // actions come back, and the actions left are not run.
+  std::optional<bool> saved;
+  QTimer watch;
+  QObject::connect(&watch, &QTimer::timeout, [&] {
+    QWidget* modal = QApplication::activeModalWidget();
+    if (!WaitsForTheUser(modal)) return;
+    if (!saved) saved = SaveScreenshot(&window, options.screenshot);
+    static_cast<QDialog*>(modal)->reject();
+  });
+  if (!options.screenshot.empty()) watch.start(kWatchMs);
   for (const std::string& action : options.run) {
+    if (saved) break;
     if (!window.RunCommand(action)) {
       std::cerr << "bom-workbench: no such command: " << action << "\n";
       return 1;
     }
   }
-  if (options.screenshot.empty()) return app.exec();
-  QApplication::processEvents();
-  if (!GrabWindows(&window).save(QString::fromStdString(options.screenshot), "PNG")) {
-    std::cerr << "bom-workbench: cannot write " << options.screenshot << "\n";
-    return 1;
+  if (options.screenshot.empty()) return app->exec();
+  watch.stop();
+  if (!saved) {
+    QApplication::processEvents();
+    saved = SaveScreenshot(&window, options.screenshot);
   }
-  return 0;
+  return *saved ? 0 : 1;
 }

@@ -6,7 +6,9 @@
 
 struct GuiOptions {
   std::vector<std::string> run;  // actions run once the window shows, in order
-  std::string screenshot;        // when set: the windows saved there as PNG, then exit
+  // When set: the windows saved there as PNG once the actions ran or a
+  // dialog waits for the user, then exit.
+  std::string screenshot;
 };
 
 // Makes the application, shows the window and runs its event loop; the exit

@@ -2,6 +2,8 @@
 
 #include "CodePage.h"
 
+#include <cctype>
+#include <cmath>
 #include <cstdlib>
 
 namespace {
@@ -47,14 +49,17 @@ bool ParseIndex(const std::string& value, int& index) {
   return true;
 }
 
-// Two numbers separated by a comma, as the simulated host reads a pick.
+// Two finite numbers separated by a comma, as the simulated host reads a
+// pick; strtod alone would also take "nan", "inf" and leading blanks.
 bool IsPoint(const std::string& value) {
   size_t comma = value.find(',');
   if (comma == std::string::npos) return false;
   for (const std::string& number : {value.substr(0, comma), value.substr(comma + 1)}) {
     char* end = nullptr;
-    std::strtod(number.c_str(), &end);
-    if (number.empty() || *end != '\0') return false;
+    double parsed = std::strtod(number.c_str(), &end);
+    if (number.empty() || std::isspace(static_cast<unsigned char>(number[0])) || *end != '\0' ||
+        !std::isfinite(parsed))
+      return false;
   }
   return true;
 }
@@ -97,6 +102,30 @@ bool ParseBomFlag(const std::string& name, BomOptions& bom) {
   return true;
 }
 
+// False for an option with a value that the job does not know; a bad value
+// sets `error`.
+bool ParseValueOption(const std::string& name, const std::string& value, WorkbenchOptions& options,
+                      std::string& error) {
+  if (name == "--session") {
+    options.session = value;
+  } else if (name == "--current") {
+    options.current = platform::ToWide(value);
+  } else if (name == "--plugin-root") {
+    options.pluginRoot = value;
+  } else if (name == "--workdir") {
+    options.workdir = value;
+  } else if (options.job == "gui" && name == "--run") {
+    options.gui.run.push_back(value);
+  } else if (options.job == "gui" && name == "--screenshot") {
+    options.gui.screenshot = value;
+  } else if (options.job == "bom") {
+    return ParseBomOption(name, value, options.bom, error);
+  } else {
+    return options.job == "rows" && ParseRowsOption(name, value, options.rows, error);
+  }
+  return true;
+}
+
 bool SetsNoControl(const BomOptions& bom) {
   return !bom.level && !bom.sort && !bom.filter && !bom.excel && !bom.text && !bom.drawing && !bom.out &&
          !bom.name;
@@ -108,10 +137,9 @@ ParseResult ParseOptions(const std::vector<std::string>& args) {
   if (args.empty()) return {std::nullopt, "no job given"};
   WorkbenchOptions options{args[0], BOM_SAMPLE_SESSION, std::nullopt, BOM_PLUGIN_ROOT, "bom-work"};
   const bool rowsJob = options.job == "rows";
-  const bool guiJob = options.job == "gui";
   const bool bomJob = options.job == "bom";
   const bool playJob = options.job == "play";
-  if (options.job != "commands" && !rowsJob && !guiJob && !bomJob && !playJob)
+  if (options.job != "commands" && !rowsJob && options.job != "gui" && !bomJob && !playJob)
     return {std::nullopt, "unknown job: " + options.job};
 
   size_t first = 1;
@@ -123,28 +151,15 @@ ParseResult ParseOptions(const std::vector<std::string>& args) {
   for (size_t i = first; i < args.size(); ++i) {
     const std::string& name = args[i];
     if (bomJob && ParseBomFlag(name, options.bom)) continue;
-    if (i + 1 >= args.size()) return {std::nullopt, "missing value of " + name};
-    const std::string& value = args[++i];
-    if (name == "--session") {
-      options.session = value;
-    } else if (name == "--current") {
-      options.current = platform::ToWide(value);
-    } else if (name == "--plugin-root") {
-      options.pluginRoot = value;
-    } else if (name == "--workdir") {
-      options.workdir = value;
-    } else if (guiJob && name == "--run") {
-      options.gui.run.push_back(value);
-    } else if (guiJob && name == "--screenshot") {
-      options.gui.screenshot = value;
-    } else if (std::string error; bomJob) {
-      if (!ParseBomOption(name, value, options.bom, error)) return {std::nullopt, "unknown option: " + name};
-      if (!error.empty()) return {std::nullopt, error};
-    } else if (!rowsJob || !ParseRowsOption(name, value, options.rows, error)) {
-      return {std::nullopt, "unknown option: " + name};
-    } else if (!error.empty()) {
-      return {std::nullopt, error};
-    }
+    // The last word: known only when an empty value is taken for it.
+    const bool hasValue = i + 1 < args.size();
+    WorkbenchOptions scratch = options;
+    std::string error;
+    if (!ParseValueOption(name, hasValue ? args[i + 1] : "", hasValue ? options : scratch, error))
+      return {std::nullopt, "unknown option " + name};
+    if (!hasValue) return {std::nullopt, "missing value of " + name};
+    if (!error.empty()) return {std::nullopt, error};
+    ++i;
   }
   if (rowsJob && options.rows.level.empty()) return {std::nullopt, "the rows job needs --level"};
   // Nobody is there to pick a point in a headless run.

@@ -2,11 +2,11 @@
 
 #include <QApplication>
 
-#include <cstdlib>
 #include <fstream>
 #include <sstream>
 
 #include "CodePage.h"
+#include "QtApplication.h"
 #include "Script.h"
 #include "ScriptRunner.h"
 
@@ -24,9 +24,7 @@ int RunPlayJob(const std::filesystem::path& script, std::ostream& out, std::ostr
         << platform::ToNarrow(parsed.error) << "\n";
     return 1;
   }
-  if (!std::getenv("DISPLAY") && !std::getenv("WAYLAND_DISPLAY") && !std::getenv("QT_QPA_PLATFORM"))
-    setenv("QT_QPA_PLATFORM", "offscreen", 1);
-  QApplication app(argc, argv);
+  std::unique_ptr<QApplication> app = StartQtApplication(argc, argv);
   PlayOptions options;
   options.scriptName = platform::ToWide(script.string());
   return PlayScript(parsed.steps, options, out, err);

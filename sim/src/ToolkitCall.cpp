@@ -1,5 +1,6 @@
 #include "ToolkitCall.h"
 
+#include "CallHold.h"
 #include "CodePage.h"
 
 namespace sim {
@@ -23,7 +24,9 @@ std::string LogArg::Text(const HostState& state) const {
 }
 
 ToolkitCall::ToolkitCall(const char* name, std::initializer_list<LogArg> args)
-    : host_(TheHost()), lock_(host_.mutex) {
+    : host_(TheHost()), lock_(host_.mutex, std::defer_lock) {
+  WaitWhileHeld(name);
+  lock_.lock();
   HostState& s = host_.state;
   CallRecord record{name, {}};
   record.args.reserve(args.size());

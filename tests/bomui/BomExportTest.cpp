@@ -279,6 +279,18 @@ TEST_F(BomExportTest, MissingTemplateIsToldAndNothingIsSaved) {
   EXPECT_TRUE(fs::is_empty(dir.path() / "out" / "Excel"));
 }
 
+// The date cell of an empty "Data" key lies outside the sheet: the cell's
+// failure is told with the workbook it broke off, and nothing is saved.
+TEST_F(BomExportTest, ACellTheSpreadsheetRefusesIsToldWithTheWorkbook) {
+  SetExcelCfg(L"ExcelBase", L"Data", L"");
+  Open();
+  Press(true, true);
+  ASSERT_EQ(prompts.size(), 1u);
+  EXPECT_TRUE(prompts[0].starts_with(L"提示:" + dir.Wide("out/Excel/清单.xls") + L": ")) << prompts[0];
+  EXPECT_TRUE(fs::is_empty(dir.path() / "out" / "Excel"));
+  EXPECT_FALSE(fs::exists(dir.path() / "out" / "清单.txt"));
+}
+
 TEST_F(BomExportTest, WithoutCurrentModelOnlyTheTextIsWritten) {
   Open();
   sim::SetCurrentModel(nullptr);

@@ -3,6 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <functional>
+#include <utility>
+#include <vector>
 
 #include "JobRun.h"
 #include "ModelFile.h"
@@ -114,13 +117,65 @@ TEST_F(BomJobTest, BadOptionsAndAPartAsCurrentModelAreRefused) {
   EXPECT_EQ(Bom("--sort x").exitCode, 2);
   EXPECT_EQ(Bom("--pick").exitCode, 2);
   EXPECT_EQ(Bom("--drawing").exitCode, 2);
-  EXPECT_EQ(Bom("--drawing --pick 3").exitCode, 2);
+  for (const char* point : {"3", "nan,1", "1,inf", "1e999,2", "' 1,2'"}) {
+    JobRun run = Bom(std::string("--drawing --pick ") + point);
+    EXPECT_EQ(run.exitCode, 2) << point;
+    EXPECT_NE(run.err.find("--pick takes a point X,Y"), std::string::npos) << run.err;
+  }
+  for (const char* arguments : {"--bogus", "--text --bogus x"}) {
+    JobRun bogus = Bom(arguments);
+    EXPECT_EQ(bogus.exitCode, 2);
+    EXPECT_NE(bogus.err.find("unknown option --bogus"), std::string::npos) << bogus.err;
+  }
   JobRun assembly = Bom("--drawing --pick 1,2");
   EXPECT_EQ(assembly.exitCode, 1);
   EXPECT_NE(assembly.err.find("DrawingCheck is disabled"), std::string::npos) << assembly.err;
   JobRun part = Bom("--current housing.prt");
   EXPECT_EQ(part.exitCode, 1);
   EXPECT_NE(part.err.find("CmdBOMShowId is not available"), std::string::npos) << part.err;
+}
+
+TEST_F(BomJobTest, NoCheckedOutputBoxIsSaidAndNothingIsWritten) {
+  // The delivered settings check no output box.
+  JobRun run = Bom("--level single " + OutOption());
+  EXPECT_EQ(run.exitCode, 1);
+  EXPECT_NE(run.err.find("no output box is checked"), std::string::npos) << run.err;
+  EXPECT_TRUE(fs::is_empty(Out()));
+}
+
+// Nothing can be made where a file stands in the way of the Excel directory.
+TEST_F(BomJobTest, AnOutputThatBreaksOffEndsTheJobWithTheFileAndTheEnginesError) {
+  dir_.Write("out/Excel", "a file");
+  JobRun run = Bom("--excel --text --name 清单 " + OutOption());
+  EXPECT_EQ(run.exitCode, 1);
+  std::string workbook = (Out() / "Excel" / "清单.xls").string();
+  EXPECT_NE(run.err.find("bom-workbench: the output broke off: "), std::string::npos) << run.err;
+  EXPECT_NE(run.err.find("cannot write " + workbook), std::string::npos) << run.err;
+  // The text output comes after the Excel output and is not reached.
+  EXPECT_FALSE(fs::exists(Out() / "清单.txt"));
+}
+
+TEST_F(BomJobTest, ATemplateThatCannotBeReadEndsTheJobWithItsPathAndReason) {
+  fs::path app = dir_.path() / "app";
+  fs::copy(BOM_STAGE_DIR, app, fs::copy_options::recursive);
+  fs::path bomTemplate = app / "template" / "BOM.xls";
+  const std::vector<std::pair<std::string, std::function<void()>>> cases = {
+      {"no such file", [] {}},
+      {"not an Excel workbook", [&] { dir_.Write("app/template/BOM.xls", ""); }},
+      {"not an Excel workbook", [&] { dir_.Write("app/template/BOM.xls", "name,qty\n"); }},
+      {"Is a directory", [&] { fs::create_directory(bomTemplate); }},
+  };
+  for (const auto& [reason, makeTemplate] : cases) {
+    fs::remove_all(bomTemplate);
+    makeTemplate();
+    JobRun run = Bom("--excel --name 清单 " + OutOption());
+    EXPECT_EQ(run.exitCode, 1) << reason;
+    EXPECT_NE(run.err.find("the output broke off: 新建Excel失败"), std::string::npos) << run.err;
+    // The plug-in names the template in lower case; a lookup ignoring case
+    // finds the delivered file.
+    EXPECT_NE(run.err.find((app / "template").string() + "/"), std::string::npos) << run.err;
+    EXPECT_NE(run.err.find(reason), std::string::npos) << run.err;
+  }
 }
 
 }  // namespace

@@ -30,8 +30,9 @@ PngSize ReadPngSize(const std::filesystem::path& file) {
 class GuiJobTest : public testing::Test {
  protected:
   // The other jobs run without a display; this one is given the offscreen one.
+  // A job that waits for nobody ends long before `timeout` stops it.
   int Workbench(const std::string& arguments) {
-    return RunJob(dir_, "gui", arguments, "QT_QPA_PLATFORM=offscreen").exitCode;
+    return RunJob(dir_, "gui", arguments, "QT_QPA_PLATFORM=offscreen timeout 120").exitCode;
   }
 
   TestDir dir_;
@@ -44,6 +45,13 @@ TEST_F(GuiJobTest, ScreenshotShowsTheListBesideTheWindow) {
   // The main window is 1000 wide, the list at least its smallest 710.
   EXPECT_GE(size.width, 1710u);
   EXPECT_GE(size.height, 700u);
+}
+
+TEST_F(GuiJobTest, ScreenshotIsTakenWhenACommandsDialogWaitsForTheUser) {
+  auto shot = dir_.path() / "shot.png";
+  ASSERT_EQ(Workbench("--run CmdBOMSetId --screenshot '" + shot.string() + "'"), 0);
+  // The settings dialog beside the 1000 wide main window.
+  EXPECT_GT(ReadPngSize(shot).width, 1100u);
 }
 
 TEST_F(GuiJobTest, UnknownCommandEndsTheJob) {

@@ -24,16 +24,18 @@ inline std::vector<std::string> SplitLines(const std::string& text) {
   return lines;
 }
 
-// `bom-workbench job` with `dir`/work as the working directory and `dir`/app,
-// copied at the first run, as the plug-in's root: the job writes there.
-// `environment` goes in front of the command.
+// `bom-workbench job` on the tests' sample session, with `dir`/work as the
+// working directory and `dir`/app, copied at the first run, as the plug-in's
+// root: the job writes there. A --session among `arguments` comes later and
+// wins. `environment` goes in front of the command.
 inline JobRun RunJob(const TestDir& dir, const std::string& job, const std::string& arguments,
                      const std::string& environment = "") {
   namespace fs = std::filesystem;
   fs::path root = dir.path() / "app";
   if (!fs::exists(root)) fs::copy(BOM_STAGE_DIR, root, fs::copy_options::recursive);
   std::string command = environment + " " + BOM_WORKBENCH + " " + job + " --workdir '" +
-                        (dir.path() / "work").string() + "' --plugin-root '" + root.string() + "' " +
+                        (dir.path() / "work").string() + "' --plugin-root '" + root.string() +
+                        "' --session '" + (fs::path(BOM_SAMPLES_DIR) / "reducer").string() + "' " +
                         arguments + " 2>'" + (dir.path() / "stderr.txt").string() + "'";
   JobRun run;
   FILE* pipe = popen(command.c_str(), "r");
