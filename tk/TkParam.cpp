@@ -43,21 +43,10 @@ ProParamvalue ReadValue(ProMdl mdl, const std::wstring& name) {
   return value;
 }
 
-std::wstring FormatDouble(double number, int decimals) {
-  std::wstring format = L"%." + std::to_wstring(decimals) + L"lf";
-  std::wstring text(64, L'\0');
-  int written;
-  while ((written = std::swprintf(text.data(), text.size(), format.c_str(), number)) < 0 &&
-         text.size() < 4096)
-    text.resize(text.size() * 4);
-  text.resize(written < 0 ? 0 : written);
-  return text;
-}
-
 std::wstring TextOf(const ProParamvalue& value, int decimals) {
   switch (value.type) {
     case PRO_PARAM_DOUBLE:
-      return FormatDouble(value.value.d_val, decimals);
+      return platform::FormatFixed(value.value.d_val, decimals);
     case PRO_PARAM_STRING:
       return std::wstring(value.value.s_val, wcsnlen(value.value.s_val, PRO_LINE_SIZE - 1));
     case PRO_PARAM_INTEGER:
