@@ -37,8 +37,11 @@ ProParamvalue ReadValue(ProMdl mdl, const std::wstring& name) {
   value.type = PRO_PARAM_VOID;
   if (name.empty()) return value;
   Found found = Init(mdl, name);
+  // Without a unit to fill the host would convert the value into the
+  // model's units; the value is wanted as the parameter holds it.
+  ProUnititem unit{};
   if (found.status != PRO_TK_NO_ERROR ||
-      ProParameterValueWithUnitsGet(&found.param, &value, nullptr) != PRO_TK_NO_ERROR)
+      ProParameterValueWithUnitsGet(&found.param, &value, &unit) != PRO_TK_NO_ERROR)
     value.type = PRO_PARAM_VOID;
   return value;
 }

@@ -51,6 +51,17 @@ TEST_F(TkParamTest, ValuesReadAsTextsWithoutUnits) {
   EXPECT_EQ(param_.GetMdlParamValue(nullptr, L"LENGTH", 2), L"");
 }
 
+TEST_F(TkParamTest, ValueReadsInTheParametersOwnUnitNotTheModels) {
+  sim::ModelDef def;
+  def.parameters.resize(1);
+  def.parameters[0].name = L"WIDTH";
+  def.parameters[0].type = PRO_PARAM_DOUBLE;
+  def.parameters[0].number = 2;
+  def.parameters[0].unit = L"in";
+  ProMdl plate = sim::AddModel(L"plate.prt", def);
+  EXPECT_EQ(param_.GetMdlParamValue(plate, L"WIDTH", 1), L"2.0");
+}
+
 TEST_F(TkParamTest, DoublesReadAndSetWithADecimalPointUnderACommaLocale) {
   CommaLocale comma;
   EXPECT_EQ(param_.GetMdlParamValue(part_, L"LENGTH", 2), L"3.14");
