@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <cstring>
 
 #include "Files.h"
 
@@ -29,8 +30,9 @@ class Converter {
   Converter(const Converter&) = delete;
   Converter& operator=(const Converter&) = delete;
 
-  // Converts all of `in`; `onError` is called with the bytes left whenever
-  // iconv stops at input it cannot take and answers how many bytes to skip.
+  // Converts all of `in`. Where iconv stops at input it cannot take,
+  // `onError` may append a stand-in to the output it is given and answers
+  // how many input bytes to skip.
   template <typename OnError>
   std::string Run(std::string_view in, OnError onError) {
     std::string out;
@@ -65,7 +67,8 @@ Conversion Decode(const char* encoding, std::string_view bytes, std::size_t unit
     ++conversion.undecoded;
     return unitSize;
   });
-  conversion.text.assign(reinterpret_cast<const wchar_t*>(wide.data()), wide.size() / sizeof(wchar_t));
+  conversion.text.resize(wide.size() / sizeof(wchar_t));
+  std::memcpy(conversion.text.data(), wide.data(), conversion.text.size() * sizeof(wchar_t));
   return conversion;
 }
 
