@@ -2,21 +2,10 @@
 #include <cmath>
 #include <cwchar>
 
+#include "CodePage.h"
 #include "ProAsmcomp.h"
 #include "ProSolid.h"
 #include "TkBOM.h"
-
-namespace {
-
-std::wstring Fixed(double value, int decimals) {
-  std::wstring format = L"%." + std::to_wstring(decimals) + L"lf";
-  std::wstring text(512, L'\0');
-  int written = std::swprintf(text.data(), text.size(), format.c_str(), value);
-  text.resize(written < 0 ? 0 : written);
-  return text;
-}
-
-}  // namespace
 
 int TkBOM::GetPartOutSize(const BomMdl& row, std::wstring& text, int sortDims, int decimals,
                           const std::wstring& separator, const std::wstring& prefix,
@@ -71,7 +60,8 @@ int TkBOM::GetPartOutSize(const BomMdl& row, std::wstring& text, int sortDims, i
       sizes[smallest] = 999999999.0;
     }
   }
-  text = prefix + Fixed(shown[0], decimals) + separator + Fixed(shown[1], decimals) + separator +
-         Fixed(shown[2], decimals) + suffix;
+  text = prefix + platform::FormatFixed(shown[0], decimals) + separator +
+         platform::FormatFixed(shown[1], decimals) + separator + platform::FormatFixed(shown[2], decimals) +
+         suffix;
   return 0;
 }

@@ -1,7 +1,6 @@
 #include "IniFileIo.h"
 
 #include <fstream>
-#include <sstream>
 
 #include "Files.h"
 
@@ -11,11 +10,7 @@ namespace {
 class DiskFiles final : public IniFileIo {
  public:
   std::optional<std::string> ReadAll(const std::wstring& path) override {
-    std::ifstream in(platform::ResolvePath(path), std::ios::binary);
-    if (!in) return std::nullopt;
-    std::ostringstream bytes;
-    bytes << in.rdbuf();
-    return bytes.str();
+    return platform::ReadFileBytes(path);
   }
 
   bool WriteAll(const std::wstring& path, const std::string& bytes) override {

@@ -1,6 +1,7 @@
 // Our own profile functions: the string, section and section-name reads and
-// the string write of INI files, with the system's buffer rules, over UTF-8
-// files reached through an IniFileIo.
+// the string write of INI files, with the system's buffer rules, over files
+// reached through an IniFileIo in UTF-8, UTF-16 or GB18030 (see
+// platform::DecodeText); a write keeps the file's encoding.
 //
 // A read fills a caller's buffer as the system does. A single value is cut to
 // the buffer's size less one and closed by a NUL. A list puts each item behind

@@ -3,12 +3,9 @@
 #include <algorithm>
 #include <cwctype>
 
-#include "CodePage.h"
-
 namespace config {
 namespace {
 
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 constexpr auto npos = std::wstring_view::npos;
 
 }  // namespace
@@ -25,30 +22,28 @@ std::wstring_view TrimBlanks(std::wstring_view text) {
 }
 
 ProfileDocument::ProfileDocument(std::string_view bytes) {
-  if (bytes.starts_with(kByteOrderMark)) {
-    byteOrderMark = kByteOrderMark;
-    bytes.remove_prefix(kByteOrderMark.size());
-  }
-  while (!bytes.empty()) {
-    std::size_t lineFeed = bytes.find('\n');
-    if (lineFeed == std::string_view::npos) {
-      lines.push_back(ParseLine(std::string(bytes), ""));
+  platform::DecodedText decoded = platform::DecodeText(bytes);
+  encoding = decoded.encoding;
+  std::wstring_view text = decoded.text;
+  while (!text.empty()) {
+    std::size_t lineFeed = text.find(L'\n');
+    if (lineFeed == npos) {
+      lines.push_back(ParseLine(std::wstring(text), L""));
       break;
     }
-    std::size_t textEnd = lineFeed > 0 && bytes[lineFeed - 1] == '\r' ? lineFeed - 1 : lineFeed;
-    lines.push_back(ParseLine(std::string(bytes.substr(0, textEnd)),
-                              std::string(bytes.substr(textEnd, lineFeed + 1 - textEnd))));
-    bytes.remove_prefix(lineFeed + 1);
+    std::size_t textEnd = lineFeed > 0 && text[lineFeed - 1] == L'\r' ? lineFeed - 1 : lineFeed;
+    lines.push_back(ParseLine(std::wstring(text.substr(0, textEnd)),
+                              std::wstring(text.substr(textEnd, lineFeed + 1 - textEnd))));
+    text.remove_prefix(lineFeed + 1);
   }
   if (!lines.empty() && !lines.front().ending.empty()) newLine = lines.front().ending;
 }
 
-ProfileDocument::Line ProfileDocument::ParseLine(std::string text, std::string ending) {
+ProfileDocument::Line ProfileDocument::ParseLine(std::wstring text, std::wstring ending) {
   Line line;
   line.text = std::move(text);
   line.ending = std::move(ending);
-  std::wstring wide = platform::ToWide(line.text);
-  std::wstring_view trimmed = TrimBlanks(wide);
+  std::wstring_view trimmed = TrimBlanks(line.text);
   if (trimmed.starts_with(L'[')) {
     line.kind = Kind::kSection;
     std::size_t close = trimmed.find(L']');
@@ -64,9 +59,9 @@ ProfileDocument::Line ProfileDocument::ParseLine(std::string text, std::string e
 }
 
 std::string ProfileDocument::Bytes() const {
-  std::string bytes = byteOrderMark;
-  for (const Line& line : lines) bytes += line.text + line.ending;
-  return bytes;
+  std::wstring text;
+  for (const Line& line : lines) text += line.text + line.ending;
+  return platform::EncodeText(text, encoding);
 }
 
 std::vector<std::wstring> ProfileDocument::SectionNames() const {
@@ -101,7 +96,7 @@ void ProfileDocument::SetValue(std::wstring_view section, std::wstring_view key,
     Line& line = lines[i];
     if (line.kind != Kind::kEntry) continue;
     if (SameProfileName(line.name, key)) {
-      line = ParseLine(platform::ToNarrow(line.name + L"=" + std::wstring(value)), line.ending);
+      line = ParseLine(line.name + L"=" + std::wstring(value), line.ending);
       return;
     }
     insertAt = i + 1;
@@ -125,7 +120,7 @@ std::size_t ProfileDocument::SectionEnd(std::size_t header) const {
 void ProfileDocument::InsertLine(std::size_t at, const std::wstring& text) {
   // Only the file's last line can lack an ending; it needs one before a line follows.
   if (at > 0 && lines[at - 1].ending.empty()) lines[at - 1].ending = newLine;
-  lines.insert(lines.begin() + static_cast<std::ptrdiff_t>(at), ParseLine(platform::ToNarrow(text), newLine));
+  lines.insert(lines.begin() + static_cast<std::ptrdiff_t>(at), ParseLine(text, newLine));
 }
 
 }  // namespace config

@@ -1,6 +1,6 @@
 // One INI file as its lines: what the profile functions read from it and the
-// one edit they make. Every line keeps its own bytes and line ending, so a
-// write changes nothing but the line it is about.
+// one edit they make. Every line keeps its own text and line ending, and the
+// file its encoding, so a write changes nothing but the line it is about.
 #pragma once
 
 #include <cstddef>
@@ -8,6 +8,8 @@
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "TextFile.h"
 
 namespace config {
 
@@ -23,11 +25,12 @@ struct ProfileEntry {
 
 class ProfileDocument {
  public:
-  // UTF-8, with or without a byte order mark; CRLF and LF line ends.
+  // In any encoding platform::DecodeText takes; CRLF and LF line ends.
   explicit ProfileDocument(std::string_view bytes);
 
-  // The file as it is to be written: the byte order mark when it had one,
-  // new lines ending as the file's first line ends (LF for a new file).
+  // The file as it is to be written: in the encoding it was read in, byte
+  // order mark included (UTF-8 for a new file), new lines ending as the
+  // file's first line ends (LF for a new file).
   std::string Bytes() const;
 
   // Non-empty section names in file order.
@@ -45,22 +48,22 @@ class ProfileDocument {
  private:
   enum class Kind { kIgnored, kSection, kEntry };
   struct Line {
-    std::string text;    // bytes without the line ending
-    std::string ending;  // "\r\n", "\n", or "" for an unterminated last line
+    std::wstring text;    // without the line ending
+    std::wstring ending;  // "\r\n", "\n", or "" for an unterminated last line
     Kind kind = Kind::kIgnored;
     std::wstring name;  // section name or key
     std::optional<std::wstring> value;
   };
 
-  static Line ParseLine(std::string text, std::string ending);
+  static Line ParseLine(std::wstring text, std::wstring ending);
   std::optional<std::size_t> FindSection(std::wstring_view section) const;
   // Index of the line that ends the section starting at `header`.
   std::size_t SectionEnd(std::size_t header) const;
   void InsertLine(std::size_t at, const std::wstring& text);
 
-  std::string byteOrderMark;
+  platform::TextEncoding encoding = platform::TextEncoding::kUtf8;
   std::vector<Line> lines;
-  std::string newLine = "\n";
+  std::wstring newLine = L"\n";
 };
 
 }  // namespace config

@@ -11,7 +11,12 @@ std::string ToNarrow(std::wstring_view text);
 std::wstring ToWide(std::string_view text);
 
 // atoi/atof of a wide text, through the narrow code page as the original does.
+// Numbers are written with a decimal point under every locale.
 int WideToInt(std::wstring_view text);
 double WideToDouble(std::wstring_view text);
+
+// printf's "%.<decimals>f" (no decimals below 0) with a decimal point under
+// every locale.
+std::wstring FormatFixed(double value, int decimals);
 
 }  // namespace platform

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -36,6 +37,9 @@ struct DirEntry {
 std::vector<DirEntry> EnumerateDirectory(std::wstring_view pattern);
 
 bool WildcardMatch(std::wstring_view pattern, std::wstring_view name);
+
+// The file's bytes; nullopt when it is no readable file, a directory included.
+std::optional<std::string> ReadFileBytes(std::wstring_view path);
 
 // As the system's CopyFile: false when `from` is no readable file, or when
 // `to` exists and `failIfExists` is set; otherwise `to` is replaced.

@@ -12,6 +12,8 @@ packages=(
   python3-xlrd python3-openpyxl libreoffice-calc-nogui fonts-wqy-zenhei
   # the dialogs and the workbench's window, Qt's own texts in Chinese
   qt6-base-dev qt6-translations-l10n
+  # a locale with a decimal comma for the tests of number texts
+  locales
 )
 
 missing=()
@@ -21,10 +23,15 @@ for package in "${packages[@]}"; do
   fi
 done
 
+sudo=""
+[ "$(id -u)" -eq 0 ] || sudo="sudo"
+
 if [ ${#missing[@]} -gt 0 ]; then
   echo "Installing: ${missing[*]}"
-  sudo=""
-  [ "$(id -u)" -eq 0 ] || sudo="sudo"
   $sudo apt-get update -q
   DEBIAN_FRONTEND=noninteractive $sudo apt-get install -y -q --no-install-recommends "${missing[@]}"
+fi
+
+if ! locale -a | grep -qx 'de_DE.utf8'; then
+  $sudo localedef -i de_DE -f UTF-8 de_DE.UTF-8
 fi

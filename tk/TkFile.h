@@ -35,8 +35,9 @@ class CTkFile {
   // Deletes a file or directory silently; with `permanent` 0 it goes to the
   // trash. 1 on success, 0 when nothing could be deleted.
   int DelFile(const std::wstring& path, int permanent) const;
-  // The file's lines without their line ends. 0 for an empty path or a file
-  // that cannot be opened.
+  // The file's lines without their line ends, in any encoding
+  // platform::DecodeText takes. 0 for an empty path or a file that cannot be
+  // opened, a directory included.
   int ReadLines(const std::wstring& path, std::vector<std::wstring>& lines) const;
   // The file's lines, each followed by "\n".
   int ReadFileText(const std::wstring& path, std::wstring& text) const;

@@ -3,24 +3,28 @@
 
 #include "CodePage.h"
 #include "Files.h"
+#include "TextFile.h"
 #include "Trash.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
-#include <fstream>
+#include <optional>
+#include <string_view>
 
 namespace {
 
 // Text mode as the system's file layer has it: a line ends at "\n", and a
 // "\r" before it belongs to the line end.
 bool ReadEachLine(const std::wstring& path, std::vector<std::wstring>& lines) {
-  if (path.empty()) return false;
-  std::ifstream in(platform::ResolvePath(path), std::ios::binary);
-  if (!in) return false;
-  std::string line;
-  while (std::getline(in, line)) {
-    if (!line.empty() && line.back() == '\r') line.pop_back();
-    lines.push_back(platform::ToWide(line));
+  std::optional<platform::DecodedText> file = platform::ReadTextFile(path);
+  if (!file) return false;
+  std::wstring_view text = file->text;
+  while (!text.empty()) {
+    std::wstring_view line = text.substr(0, text.find(L'\n'));
+    text.remove_prefix(std::min(line.size() + 1, text.size()));
+    if (line.ends_with(L'\r')) line.remove_suffix(1);
+    lines.emplace_back(line);
   }
   return true;
 }

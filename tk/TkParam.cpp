@@ -37,27 +37,19 @@ ProParamvalue ReadValue(ProMdl mdl, const std::wstring& name) {
   value.type = PRO_PARAM_VOID;
   if (name.empty()) return value;
   Found found = Init(mdl, name);
+  // Without a unit to fill the host would convert the value into the
+  // model's units; the value is wanted as the parameter holds it.
+  ProUnititem unit{};
   if (found.status != PRO_TK_NO_ERROR ||
-      ProParameterValueWithUnitsGet(&found.param, &value, nullptr) != PRO_TK_NO_ERROR)
+      ProParameterValueWithUnitsGet(&found.param, &value, &unit) != PRO_TK_NO_ERROR)
     value.type = PRO_PARAM_VOID;
   return value;
-}
-
-std::wstring FormatDouble(double number, int decimals) {
-  std::wstring format = L"%." + std::to_wstring(decimals) + L"lf";
-  std::wstring text(64, L'\0');
-  int written;
-  while ((written = std::swprintf(text.data(), text.size(), format.c_str(), number)) < 0 &&
-         text.size() < 4096)
-    text.resize(text.size() * 4);
-  text.resize(written < 0 ? 0 : written);
-  return text;
 }
 
 std::wstring TextOf(const ProParamvalue& value, int decimals) {
   switch (value.type) {
     case PRO_PARAM_DOUBLE:
-      return FormatDouble(value.value.d_val, decimals);
+      return platform::FormatFixed(value.value.d_val, decimals);
     case PRO_PARAM_STRING:
       return std::wstring(value.value.s_val, wcsnlen(value.value.s_val, PRO_LINE_SIZE - 1));
     case PRO_PARAM_INTEGER:

@@ -1,5 +1,9 @@
 #include "CodePage.h"
 
+#include <locale.h>
+
+#include <algorithm>
+#include <charconv>
 #include <cstdlib>
 
 namespace platform {
@@ -64,6 +68,18 @@ std::wstring ToWide(std::string_view text) {
 
 int WideToInt(std::wstring_view text) { return std::atoi(ToNarrow(text).c_str()); }
 
-double WideToDouble(std::wstring_view text) { return std::atof(ToNarrow(text).c_str()); }
+double WideToDouble(std::wstring_view text) {
+  static const locale_t cLocale = newlocale(LC_ALL_MASK, "C", nullptr);
+  return strtod_l(ToNarrow(text).c_str(), nullptr, cLocale);
+}
+
+std::wstring FormatFixed(double value, int decimals) {
+  // The longest fixed text of a double has 309 digits before the point.
+  std::string text(320 + static_cast<std::size_t>(std::max(decimals, 0)), '\0');
+  std::to_chars_result result = std::to_chars(text.data(), text.data() + text.size(), value,
+                                              std::chars_format::fixed, std::max(decimals, 0));
+  text.resize(static_cast<std::size_t>(result.ptr - text.data()));
+  return std::wstring(text.begin(), text.end());
+}
 
 }  // namespace platform

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cwctype>
+#include <fstream>
+#include <iterator>
 #include <optional>
 #include <system_error>
 
@@ -136,6 +138,19 @@ bool CopyFile(std::wstring_view from, std::wstring_view to, bool failIfExists) {
 bool CreateDirectory(std::wstring_view path) {
   std::error_code ec;
   return fs::create_directory(ResolvePath(path), ec) && !ec;
+}
+
+std::optional<std::string> ReadFileBytes(std::wstring_view path) {
+  if (path.empty()) return std::nullopt;
+  fs::path resolved = ResolvePath(path);
+  std::error_code ec;
+  // Opening a directory succeeds on POSIX and fails on Windows.
+  if (fs::is_directory(resolved, ec)) return std::nullopt;
+  std::ifstream in(resolved, std::ios::binary);
+  if (!in) return std::nullopt;
+  std::string bytes{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+  if (in.bad()) return std::nullopt;
+  return bytes;
 }
 
 bool DeletePermanently(std::wstring_view path) {

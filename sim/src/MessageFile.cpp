@@ -23,12 +23,18 @@ std::vector<std::string_view> Lines(std::string_view bytes) {
   return lines;
 }
 
-std::optional<std::filesystem::path> FindMessageFile(const HostState& state, const wchar_t* fileName) {
-  if (!state.textPaths || !fileName || !*fileName) return std::nullopt;
-  for (const std::wstring* dir : {&state.textPaths->message, &state.textPaths->menu}) {
-    if (auto found = FindFileNoCase(platform::NativePath(*dir), fileName)) return found;
-  }
-  return std::nullopt;
+// The directory of the text paths, the message or the menu one.
+using TextDir = std::wstring protkrt::TextPaths::*;
+
+MessageLookup Lookup(const HostState& state, TextDir dir, const wchar_t* fileName, const char* key) {
+  if (!state.textPaths || !fileName || !*fileName) return {PRO_TK_E_NOT_FOUND};
+  std::optional<std::filesystem::path> file =
+      FindFileNoCase(platform::NativePath((*state.textPaths).*dir), fileName);
+  if (!file) return {PRO_TK_E_NOT_FOUND};
+  std::map<std::string, std::wstring> messages = ParseMessageFile(ReadBytes(*file).value_or(""));
+  auto found = key ? messages.find(key) : messages.end();
+  if (found == messages.end()) return {PRO_TK_MSG_NOT_FOUND};
+  return {PRO_TK_NO_ERROR, found->second};
 }
 
 }  // namespace
@@ -54,12 +60,11 @@ std::map<std::string, std::wstring> ParseMessageFile(std::string_view bytes) {
 }
 
 MessageLookup LookupMessage(const HostState& state, const wchar_t* fileName, const char* key) {
-  std::optional<std::filesystem::path> file = FindMessageFile(state, fileName);
-  if (!file) return {PRO_TK_E_NOT_FOUND};
-  std::map<std::string, std::wstring> messages = ParseMessageFile(ReadBytes(*file).value_or(""));
-  auto found = key ? messages.find(key) : messages.end();
-  if (found == messages.end()) return {PRO_TK_MSG_NOT_FOUND};
-  return {PRO_TK_NO_ERROR, found->second};
+  return Lookup(state, &protkrt::TextPaths::message, fileName, key);
+}
+
+MessageLookup LookupMenuText(const HostState& state, const wchar_t* fileName, const char* key) {
+  return Lookup(state, &protkrt::TextPaths::menu, fileName, key);
 }
 
 }  // namespace sim

@@ -20,7 +20,10 @@ struct MessageLookup {
 };
 
 // The file is looked up by name, without regard to case, in the registered
-// application's message directory, then its menu directory.
+// application's message directory: the files of messages shown.
 MessageLookup LookupMessage(const HostState& state, const wchar_t* fileName, const char* key);
+// The same in the application's menu directory: the files of the labels and
+// helps of menus and commands.
+MessageLookup LookupMenuText(const HostState& state, const wchar_t* fileName, const char* key);
 
 }  // namespace sim

@@ -7,6 +7,7 @@
 #include "ModelFiles.h"
 #include "Text.h"
 #include "ToolkitCall.h"
+#include "UnitSystems.h"
 
 #include <nlohmann/json.hpp>
 
@@ -17,29 +18,6 @@
 namespace {
 
 using nlohmann::json;
-
-const std::vector<std::wstring> kStandardSystems = {
-    L"Centimeter Gram Second (CGS)", L"Foot Pound Second (FPS)",        L"Inch lbm Second (IPS)",
-    L"Meter Kilogram Second (MKS)",  L"millimeter Kilogram Sec (mmKs)", L"millimeter Newton Second (mmNs)"};
-constexpr wchar_t kStandardPrincipal[] = L"millimeter Newton Second (mmNs)";
-
-std::vector<std::wstring> Systems(const sim::Model& model) {
-  json listed = json::parse(sim::DocumentKey(model, "unitSystems"), nullptr, false);
-  if (!listed.is_array()) return kStandardSystems;
-  std::vector<std::wstring> systems;
-  for (const json& name : listed) {
-    if (name.is_string()) systems.push_back(platform::ToWide(name.get<std::string>()));
-  }
-  return systems;
-}
-
-std::wstring Principal(const sim::Model& model) {
-  json named = json::parse(sim::DocumentKey(model, "principalUnitSystem"), nullptr, false);
-  if (named.is_string()) return platform::ToWide(named.get<std::string>());
-  std::vector<std::wstring> systems = Systems(model);
-  bool standard = std::find(systems.begin(), systems.end(), kStandardPrincipal) != systems.end();
-  return standard || systems.empty() ? kStandardPrincipal : systems.front();
-}
 
 ProUnitsystem System(ProMdl owner, const std::wstring& name) {
   ProUnitsystem system{owner, {}};
@@ -54,7 +32,7 @@ extern "C" ProError ProMdlPrincipalunitsystemGet(ProMdl mdl, ProUnitsystem* prin
   if (call.Failed()) return call.Status();
   const sim::Model* model = call.state().LiveSolid(mdl);
   if (!model || !principal_system) return PRO_TK_BAD_INPUTS;
-  *principal_system = System(mdl, Principal(*model));
+  *principal_system = System(mdl, sim::PrincipalUnitSystem(*model));
   return PRO_TK_NO_ERROR;
 }
 
@@ -68,7 +46,7 @@ extern "C" ProError ProMdlPrincipalunitsystemSet(ProMdl mdl, ProUnitsystem* new_
   sim::Model* model = call.state().LiveSolid(mdl);
   if (!model || !new_system) return PRO_TK_BAD_INPUTS;
   if (type != PRO_UNITCONVERT_SAME_DIMS && type != PRO_UNITCONVERT_SAME_SIZE) return PRO_TK_BAD_INPUTS;
-  std::vector<std::wstring> systems = Systems(*model);
+  std::vector<std::wstring> systems = sim::UnitSystems(*model);
   if (std::find(systems.begin(), systems.end(), new_system->name) == systems.end()) return PRO_TK_E_NOT_FOUND;
   sim::SetDocumentKey(*model, "principalUnitSystem", json(platform::ToNarrow(new_system->name)).dump());
   return PRO_TK_NO_ERROR;
@@ -80,7 +58,7 @@ extern "C" ProError ProMdlUnitsystemsCollect(ProMdl mdl, ProUnitsystem** systems
   const sim::Model* model = call.state().LiveSolid(mdl);
   if (!model || !systems) return PRO_TK_BAD_INPUTS;
   std::vector<ProUnitsystem> collected;
-  for (const std::wstring& name : Systems(*model)) collected.push_back(System(mdl, name));
+  for (const std::wstring& name : sim::UnitSystems(*model)) collected.push_back(System(mdl, name));
   void* array = sim::NewArray(0, sizeof(ProUnitsystem), std::max<int>(1, collected.size()));
   if (!array) return PRO_TK_OUT_OF_MEMORY;
   if (!collected.empty() &&

@@ -13,11 +13,11 @@ ProError AddItem(const sim::HostState& state, std::vector<sim::MenuItem>& siblin
                  const char* neighbour, ProBoolean add_after, const wchar_t* filename) {
   sim::Placement placement = sim::PlaceMenuItem(siblings, item.name, neighbour, add_after == PRO_B_TRUE);
   if (placement.status != PRO_TK_NO_ERROR) return placement.status;
-  sim::MessageLookup label = sim::LookupMessage(state, filename, item.labelKey.c_str());
+  sim::MessageLookup label = sim::LookupMenuText(state, filename, item.labelKey.c_str());
   if (label.status != PRO_TK_NO_ERROR) return PRO_TK_MSG_NOT_FOUND;
   item.label = label.text;
   if (item.kind == sim::MenuItem::Kind::Button) {
-    sim::MessageLookup help = sim::LookupMessage(state, filename, item.helpKey.c_str());
+    sim::MessageLookup help = sim::LookupMenuText(state, filename, item.helpKey.c_str());
     if (help.status != PRO_TK_NO_ERROR) return PRO_TK_MSG_NOT_FOUND;
     item.help = help.text;
   }

@@ -6,6 +6,7 @@
 #include "HostMemory.h"
 #include "Text.h"
 #include "ToolkitCall.h"
+#include "UnitSystems.h"
 
 #include <algorithm>
 #include <vector>
@@ -100,7 +101,9 @@ extern "C" ProError ProParameterValueWithUnitsGet(ProParameter* param, ProParamv
   proval->type = parameter.type;
   switch (parameter.type) {
     case PRO_PARAM_DOUBLE:
-      proval->value.d_val = parameter.number;
+      // Asked without a unit, the host answers in the owner model's units.
+      proval->value.d_val =
+          units ? parameter.number : sim::InPrincipalUnits(*found.owner, parameter.number, parameter.unit);
       break;
     case PRO_PARAM_INTEGER:
       proval->value.i_val = parameter.integer;

@@ -60,7 +60,7 @@ extern "C" ProError ProCmdDesignate(uiCmdCmdId cmd_id, ProCmdItemLabel button_la
   sim::MessageLookup texts[3];
   const char* keys[3] = {button_label, one_line_help, description};
   for (int i = 0; i < 3; ++i) {
-    texts[i] = sim::LookupMessage(state, msg_file, keys[i]);
+    texts[i] = sim::LookupMenuText(state, msg_file, keys[i]);
     if (texts[i].status != PRO_TK_NO_ERROR) return texts[i].status;
   }
   command->info.designated = true;

@@ -3,6 +3,7 @@
 
 #include "BomTestSupport.h"
 #include "CodePage.h"
+#include "CommaLocale.h"
 #include "SelectionBuffer.h"
 
 namespace {
@@ -39,6 +40,16 @@ TEST_F(BomAttributes, PartSizeIsItsSurfacesBoxSmallestFirst) {
   std::wstring text;
   EXPECT_EQ(bom_.GetPartOutSize(rows[1], text, 0, 1, L"*", L"[", L"]"), 0);
   EXPECT_EQ(text, L"[100.0*20.4*50.0]");
+}
+
+TEST_F(BomAttributes, PartSizeKeepsTheDecimalPointUnderACommaLocale) {
+  BoxPart(L"plate.prt", {{0, 0, 0}, {100, 20.4, 50}});
+  MakeCurrent(Assembly(L"top.asm", std::vector<std::wstring>{L"plate.prt"}));
+  auto rows = MultiLevel();
+  CommaLocale comma;
+  std::wstring text;
+  EXPECT_EQ(bom_.GetPartOutSize(rows[1], text, 1, 2, L"X", L"", L""), 0);
+  EXPECT_EQ(text, L"20.40X50.00X100.00");
 }
 
 TEST_F(BomAttributes, SubAssemblySizeComesFromItsPlacedPartsAndTheTopRowHasAPathWithoutIds) {

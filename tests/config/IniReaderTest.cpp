@@ -94,6 +94,55 @@ TEST_F(IniReaderTest, ByteOrderMarkAndCrLfAreReadAndKept) {
   EXPECT_EQ(reader.GetKeyValue(L"y", L"A"), L"层级");
 }
 
+struct EncodedCfg {
+  const char* name;
+  std::string original;  // "[列]\r\n1=零件\r\n"
+  std::string written;   // the same with "2=件" added to the section
+};
+
+class IniReaderEncodings : public IniReaderTest, public testing::WithParamInterface<EncodedCfg> {};
+
+TEST_P(IniReaderEncodings, ReadsTheTextAndWritesBackInTheFilesEncoding) {
+  Given(GetParam().original);
+  EXPECT_EQ(reader.GetKeyValue(L"1", L"列"), L"零件");
+  EXPECT_EQ(reader.SetKey(L"零件", L"1", L"列"), 1);
+  EXPECT_EQ(Bytes(), GetParam().original);
+  reader.SetKey(L"件", L"2", L"列");
+  EXPECT_EQ(Bytes(), GetParam().written);
+}
+
+using namespace std::string_literals;
+
+INSTANTIATE_TEST_SUITE_P(
+    AsWindowsEditorsSave, IniReaderEncodings,
+    testing::Values(EncodedCfg{"Gbk", "[\xC1\xD0]\r\n1=\xC1\xE3\xBC\xFE\r\n",
+                               "[\xC1\xD0]\r\n1=\xC1\xE3\xBC\xFE\r\n2=\xBC\xFE\r\n"},
+                    EncodedCfg{
+                        "Utf8Bom", "\xEF\xBB\xBF[\xE5\x88\x97]\r\n1=\xE9\x9B\xB6\xE4\xBB\xB6\r\n",
+                        "\xEF\xBB\xBF[\xE5\x88\x97]\r\n1=\xE9\x9B\xB6\xE4\xBB\xB6\r\n2=\xE4\xBB\xB6\r\n"},
+                    EncodedCfg{"Utf16Le",
+                               "\xFF\xFE[\0\x17\x52]\0\r\0\n\0"
+                               "1\0=\0\xF6\x96\xF6\x4E\r\0\n\0"s,
+                               "\xFF\xFE[\0\x17\x52]\0\r\0\n\0"
+                               "1\0=\0\xF6\x96\xF6\x4E\r\0\n\0"
+                               "2\0=\0\xF6\x4E\r\0\n\0"s},
+                    EncodedCfg{"Utf16Be",
+                               "\xFE\xFF\0[\x52\x17\0]\0\r\0\n\0"
+                               "1\0=\x96\xF6\x4E\xF6\0\r\0\n"s,
+                               "\xFE\xFF\0[\x52\x17\0]\0\r\0\n\0"
+                               "1\0=\x96\xF6\x4E\xF6\0\r\0\n\0"
+                               "2\0=\x4E\xF6\0\r\0\n"s}),
+    [](const testing::TestParamInfo<EncodedCfg>& info) { return std::string(info.param.name); });
+
+TEST_F(IniReaderTest, BytesValidInNoEncodingCostOnlyTheirOwnCharacters) {
+  // GBK with a stray byte 0xFF, which no encoding here takes.
+  Given("[A]\r\nname=\xC1\xE3\xBC\xFE\xFF\r\nk=v\r\n");
+  EXPECT_EQ(reader.GetKeyValue(L"name", L"A"), L"零件\xFFFD");
+  EXPECT_EQ(reader.GetKeyValue(L"k", L"A"), L"v");
+  reader.SetKey(L"w", L"k", L"A");
+  EXPECT_EQ(Bytes(), "[A]\r\nname=\xC1\xE3\xBC\xFE\x84\x31\xA4\x37\r\nk=w\r\n");
+}
+
 TEST(IniReaderDisk, WriteCreatesAMissingFileButNotAMissingDirectory) {
   TestDir dir;
   CIniReader reader;

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "CodePage.h"
+#include "CommaLocale.h"
 #include "DebugOutput.h"
 
 TEST(CodePage, ChineseTextRoundTripsThroughTheNarrowCodePage) {
@@ -25,6 +26,17 @@ TEST(CodePage, NumbersConvertWithAtoiRules) {
   EXPECT_EQ(platform::WideToInt(L""), 0);
   EXPECT_EQ(platform::WideToInt(L"abc"), 0);
   EXPECT_DOUBLE_EQ(platform::WideToDouble(L" 2.5kg"), 2.5);
+}
+
+TEST(CodePage, NumbersReadAndWriteWithADecimalPointUnderACommaLocale) {
+  CommaLocale comma;
+  EXPECT_DOUBLE_EQ(platform::WideToDouble(L"3.5"), 3.5);
+  EXPECT_DOUBLE_EQ(platform::WideToDouble(L" -2.25e1mm"), -22.5);
+  EXPECT_DOUBLE_EQ(platform::WideToDouble(L"3,5"), 3.0);
+  EXPECT_EQ(platform::FormatFixed(5.4, 2), L"5.40");
+  EXPECT_EQ(platform::FormatFixed(-0.125, 1), L"-0.1");
+  EXPECT_EQ(platform::FormatFixed(2.5, 0), L"2");
+  EXPECT_EQ(platform::FormatFixed(1e20, 1), L"100000000000000000000.0");
 }
 
 TEST(DebugOutput, GoesToTheInstalledSinkOnly) {

@@ -4,6 +4,7 @@
 
 #include "ApplTextPath.h"
 #include "CodePage.h"
+#include "Files.h"
 #include "ProToolkitDll.h"
 #include "TestDir.h"
 #include "TextPaths.h"
@@ -39,6 +40,16 @@ TEST_F(TextPathsTest, LanguageDirectoryWinsAndFallsBackToLanguageSix) {
   auto own = protkrt::BuildTextPaths(Root(), 1);
   EXPECT_EQ(own.message, Root() + L"\\text\\chinese_cn");
   EXPECT_EQ(own.resource, Root() + L"\\text\\chinese_cn\\resource");
+}
+
+TEST(DeliveredTextTree, EachFileLiesInTheTextPathTheHostLooksIn) {
+  // The delivered tree has no language directory, as the plug-in ships.
+  protkrt::TextPaths paths = protkrt::BuildTextPaths(platform::ToWide(BOM_SOURCE_DIR "/data"), 1);
+  for (const wchar_t* menuFile : {L"BOMMenu.txt", L"ParamMenu.txt", L"AutoMenu.txt", L"UserLibMenu.txt"})
+    EXPECT_TRUE(platform::FileExists(paths.menu + L"\\" + menuFile)) << platform::ToNarrow(menuFile);
+  for (const wchar_t* messageFile : {L"usermsg.txt", L"BOMMsg.txt"})
+    EXPECT_TRUE(platform::FileExists(paths.message + L"\\" + messageFile)) << platform::ToNarrow(messageFile);
+  EXPECT_TRUE(platform::FileExists(paths.resource + L"\\BOMShow.gif"));
 }
 
 TEST(ApplTextPath, HostGetsTheRecordedTextDirectory) {

@@ -143,4 +143,14 @@ TEST_F(SimMenus, DesignationResolvesThreeKeysOrDesignatesNothing) {
   EXPECT_EQ(info.description, L"设置");
 }
 
+TEST_F(SimMenus, MenuFilesAreLookedUpInTheMenuDirectoryOnly) {
+  // A menu file beside the message files is no menu file to the host.
+  dir.Write("app/text/Beside.txt", MessageFileText({{"Tools", "工具"}, {"Bom", "清单"}, {"BomHelp", "#"}}));
+  wchar_t beside[] = L"Beside.txt";
+  EXPECT_EQ(ProMenubarMenuAdd(Text("Bom"), Text("Tools"), nullptr, PRO_B_TRUE, beside), PRO_TK_MSG_NOT_FOUND);
+  EXPECT_EQ(ProCmdDesignate(Command("Show"), Text("Bom"), Text("BomHelp"), Text("Bom"), beside),
+            PRO_TK_E_NOT_FOUND);
+  EXPECT_EQ(AddTop("Bom", nullptr, true), PRO_TK_NO_ERROR);
+}
+
 }  // namespace

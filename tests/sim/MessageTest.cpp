@@ -42,6 +42,13 @@ TEST_F(SimMessages, UnknownFileOrKeyShowsNothing) {
   EXPECT_TRUE(sim::Messages().lines.empty());
 }
 
+TEST_F(SimMessages, MessageFilesAreLookedUpInTheMessageDirectoryOnly) {
+  dir.Write("app/text/menus/msg.txt", MessageFileText({{"known", "已知"}}));
+  char known[] = "known";
+  EXPECT_EQ(ProMessageDisplay(file, known), PRO_TK_MSG_NOT_FOUND);
+  EXPECT_TRUE(sim::Messages().lines.empty());
+}
+
 TEST_F(SimMessages, ClearEmptiesTheLineButKeepsTheHistory) {
   dir.Write("app/text/msg.txt", MessageFileText({{"known", "已知"}}));
   char known[] = "known";

@@ -51,6 +51,31 @@ TEST_F(SimParameters, ModelItemNamesTheModelAndValuesComeWithTheirUnits) {
   Init(L"MISSING", PRO_TK_E_NOT_FOUND);
 }
 
+TEST_F(SimParameters, WithoutAUnitToFillTheValueComesInTheModelsUnits) {
+  dir.Write("m/plate.prt",
+            ModelJson("part", R"json("principalUnitSystem": "Inch lbm Second (IPS)", "parameters": [
+      {"name": "WIDTH", "type": "double", "value": 50.8, "unit": "mm"},
+      {"name": "WEIGHT", "type": "double", "value": 2, "unit": "kg"},
+      {"name": "RATIO", "type": "double", "value": 0.5}])json"));
+  ProModelitem plate{};
+  ProMdlToModelitem(Load(dir.Wide("m/plate.prt")), &plate);
+  struct Case {
+    ProName name;
+    double own;
+    double inModelUnits;
+  };
+  for (Case c : {Case{L"WIDTH", 50.8, 2}, Case{L"WEIGHT", 2, 2 / 0.45359237}, Case{L"RATIO", 0.5, 0.5}}) {
+    ProParameter param{};
+    ASSERT_EQ(ProParameterInit(&plate, c.name, &param), PRO_TK_NO_ERROR);
+    ProParamvalue value{};
+    ProUnititem unit{};
+    ASSERT_EQ(ProParameterValueWithUnitsGet(&param, &value, &unit), PRO_TK_NO_ERROR);
+    EXPECT_DOUBLE_EQ(value.value.d_val, c.own);
+    ASSERT_EQ(ProParameterValueWithUnitsGet(&param, &value, nullptr), PRO_TK_NO_ERROR);
+    EXPECT_DOUBLE_EQ(value.value.d_val, c.inModelUnits);
+  }
+}
+
 TEST_F(SimParameters, SettingKeepsTheTypeAndCreatingRefusesAnExistingName) {
   ProParameter count = Init(L"COUNT");
   ProParamvalue value{};

@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
+#include <utility>
 
 #include "ApplTextPath.h"
 #include "CallLog.h"
@@ -142,6 +144,32 @@ TEST_F(TkFileHostTest, TextFilesReadByLineAndAppendToFileReplacesTheContents) {
   EXPECT_EQ(file_.AppendToFile(Work("out.txt"), L"第二"), 1);
   EXPECT_EQ(dir_.Read("work/out.txt"), "第二");
   EXPECT_NE(file_.AppendToFile(Work("no/dir/out.txt"), L"x"), 1);
+}
+
+TEST_F(TkFileHostTest, ReadLinesTakesTheEncodingsOfWindowsEditorsAndRefusesADirectory) {
+  using namespace std::string_literals;
+  // "零件=1" and "M8": GBK, UTF-8 behind a byte order mark, UTF-16 LE and BE.
+  const std::pair<const char*, std::string> files[] = {
+      {"gbk.txt", "\xC1\xE3\xBC\xFE=1\r\nM8"},
+      {"utf8.txt", "\xEF\xBB\xBF\xE9\x9B\xB6\xE4\xBB\xB6=1\r\nM8\n"},
+      {"le.txt",
+       "\xFF\xFE\xF6\x96\xF6\x4E=\0"
+       "1\0\r\0\n\0M\0"
+       "8\0"s},
+      {"be.txt",
+       "\xFE\xFF\x96\xF6\x4E\xF6\0=\0"
+       "1\0\n\0M\0"
+       "8"s}};
+  for (const auto& [name, bytes] : files) {
+    dir_.Write(std::string("work/") + name, bytes);
+    std::vector<std::wstring> lines;
+    EXPECT_EQ(file_.ReadLines(Work(name), lines), 1) << name;
+    EXPECT_EQ(lines, (std::vector<std::wstring>{L"零件=1", L"M8"})) << name;
+  }
+  std::filesystem::create_directories(dir_.path() / "work" / "sub");
+  std::vector<std::wstring> lines{L"stale"};
+  EXPECT_EQ(file_.ReadLines(Work("sub"), lines), 0);
+  EXPECT_TRUE(lines.empty());
 }
 
 TEST_F(TkFileHostTest, ListingsOfTheSystem) {

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "CallLog.h"
+#include "CommaLocale.h"
 #include "HostControl.h"
 #include "PluginHost.h"
 #include "TkParam.h"
@@ -48,6 +49,26 @@ TEST_F(TkParamTest, ValuesReadAsTextsWithoutUnits) {
   EXPECT_EQ(param_.GetMdlParamValue(part_, L"名称", 2), L"输出轴");
   EXPECT_EQ(param_.GetMdlParamValue(part_, L"MISSING", 2), L"");
   EXPECT_EQ(param_.GetMdlParamValue(nullptr, L"LENGTH", 2), L"");
+}
+
+TEST_F(TkParamTest, ValueReadsInTheParametersOwnUnitNotTheModels) {
+  sim::ModelDef def;
+  def.parameters.resize(1);
+  def.parameters[0].name = L"WIDTH";
+  def.parameters[0].type = PRO_PARAM_DOUBLE;
+  def.parameters[0].number = 2;
+  def.parameters[0].unit = L"in";
+  ProMdl plate = sim::AddModel(L"plate.prt", def);
+  EXPECT_EQ(param_.GetMdlParamValue(plate, L"WIDTH", 1), L"2.0");
+}
+
+TEST_F(TkParamTest, DoublesReadAndSetWithADecimalPointUnderACommaLocale) {
+  CommaLocale comma;
+  EXPECT_EQ(param_.GetMdlParamValue(part_, L"LENGTH", 2), L"3.14");
+  EXPECT_EQ(param_.SetMdlParamValue(part_, L"LENGTH", CTkParam::kDouble, L"5.4"), 0);
+  EXPECT_EQ(param_.GetMdlParamValue(part_, L"LENGTH", 2), L"5.40");
+  EXPECT_EQ(param_.CreateMdlParam(part_, L"WIDTH", CTkParam::kDouble, L"0.75"), 0);
+  EXPECT_EQ(param_.GetMdlParamValue(part_, L"WIDTH", 3), L"0.750");
 }
 
 TEST_F(TkParamTest, TypeIsNoValueForAnythingUnreadableAndAnEmptyNameAsksNothing) {

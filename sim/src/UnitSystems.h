@@ -1,0 +1,20 @@
+// The unit systems of a solid: those its model file lists, or the host's
+// standard set, and the principal one, whose units the host's calls without
+// a unit of their own use.
+#pragma once
+
+#include "Model.h"
+
+#include <string>
+#include <vector>
+
+namespace sim {
+
+std::vector<std::wstring> UnitSystems(const Model& model);
+std::wstring PrincipalUnitSystem(const Model& model);
+
+// A value given in `unit` in the unit of the same dimension of the model's
+// principal system; unchanged when either is a unit not known here.
+double InPrincipalUnits(const Model& model, double value, const std::wstring& unit);
+
+}  // namespace sim
