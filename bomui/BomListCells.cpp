@@ -1,6 +1,5 @@
 #include "BomListCells.h"
 
-#include <cstdio>
 #include <cstdlib>
 
 #include "CodePage.h"
@@ -24,9 +23,7 @@ std::wstring LevelText(const BomMdl& row, const std::wstring& levelSign) {
 
 std::wstring MassText(double mass, int decimals) {
   if (mass == 0.0) return L"0";
-  char text[64];
-  std::snprintf(text, sizeof text, "%.*f", decimals, mass);
-  return platform::ToWide(text);
+  return platform::FormatFixed(mass, decimals);
 }
 
 int ParamValueTypeOf(int valueType) {

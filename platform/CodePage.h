@@ -1,6 +1,7 @@
 // The system's narrow code page: UTF-8 on POSIX, the ANSI code page on Windows.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -14,6 +15,10 @@ std::wstring ToWide(std::string_view text);
 // Numbers are written with a decimal point under every locale.
 int WideToInt(std::wstring_view text);
 double WideToDouble(std::wstring_view text);
+
+// The whole text as a finite number written with a decimal point, under
+// every locale; nullopt for anything else (blanks, "nan", "inf", "5,4").
+std::optional<double> ParseNumber(std::string_view text);
 
 // printf's "%.<decimals>f" (no decimals below 0) with a decimal point under
 // every locale.

@@ -2,9 +2,6 @@
 
 #include "CodePage.h"
 
-#include <cctype>
-#include <cmath>
-#include <cstdlib>
 
 namespace {
 
@@ -50,18 +47,11 @@ bool ParseIndex(const std::string& value, int& index) {
 }
 
 // Two finite numbers separated by a comma, as the simulated host reads a
-// pick; strtod alone would also take "nan", "inf" and leading blanks.
+// pick.
 bool IsPoint(const std::string& value) {
   size_t comma = value.find(',');
-  if (comma == std::string::npos) return false;
-  for (const std::string& number : {value.substr(0, comma), value.substr(comma + 1)}) {
-    char* end = nullptr;
-    double parsed = std::strtod(number.c_str(), &end);
-    if (number.empty() || std::isspace(static_cast<unsigned char>(number[0])) || *end != '\0' ||
-        !std::isfinite(parsed))
-      return false;
-  }
-  return true;
+  return comma != std::string::npos && platform::ParseNumber(value.substr(0, comma)) &&
+         platform::ParseNumber(value.substr(comma + 1));
 }
 
 // False for an option that the bom job does not know.

@@ -3,7 +3,6 @@
 #include <cctype>
 #include <charconv>
 #include <cmath>
-#include <cstdio>
 #include <cwctype>
 
 #include "Error.h"
@@ -77,9 +76,12 @@ std::optional<double> ParseTypedNumber(std::wstring_view text) {
 
 std::wstring FormatNumber(double value) {
   if (value == 0) return L"0";
+  // printf's "%.15G" under every locale.
   char buffer[32];
-  std::snprintf(buffer, sizeof buffer, "%.15G", value);
-  return std::wstring(buffer, buffer + std::char_traits<char>::length(buffer));
+  auto [end, error] = std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::general, 15);
+  std::wstring text(buffer, error == std::errc() ? end : buffer);
+  for (wchar_t& c : text) c = c == L'e' ? L'E' : c;
+  return text;
 }
 
 bool IsTextFormatCode(std::wstring_view code) { return code == L"@"; }

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 #include <cstdlib>
 
 namespace platform {
@@ -71,6 +72,15 @@ int WideToInt(std::wstring_view text) { return std::atoi(ToNarrow(text).c_str())
 double WideToDouble(std::wstring_view text) {
   static const locale_t cLocale = newlocale(LC_ALL_MASK, "C", nullptr);
   return strtod_l(ToNarrow(text).c_str(), nullptr, cLocale);
+}
+
+std::optional<double> ParseNumber(std::string_view text) {
+  if (text.starts_with('+')) text.remove_prefix(1);
+  double value = 0;
+  auto [rest, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+  if (text.empty() || error != std::errc() || rest != text.data() + text.size() || !std::isfinite(value))
+    return std::nullopt;
+  return value;
 }
 
 std::wstring FormatFixed(double value, int decimals) {

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cwchar>
 #include <optional>
 
 namespace sim {
@@ -36,11 +35,8 @@ std::wstring ArgText(wchar_t type, const void* arg) {
       return static_cast<const wchar_t*>(arg);
     case L'd':
       return std::to_wstring(*static_cast<const int*>(arg));
-    default: {
-      wchar_t buffer[64];
-      std::swprintf(buffer, 64, L"%f", *static_cast<const double*>(arg));
-      return buffer;
-    }
+    default:
+      return platform::FormatFixed(*static_cast<const double*>(arg), 6);
   }
 }
 

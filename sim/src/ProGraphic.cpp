@@ -5,25 +5,24 @@
 #include "ProGraphic.h"
 
 #include "AnswerProvider.h"
+#include "CodePage.h"
 #include "ToolkitCall.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <cwchar>
 #include <optional>
 #include <string>
 #include <vector>
 
 namespace {
 
+// A number between blanks.
 std::optional<double> Number(const std::wstring& text) {
-  const wchar_t* start = text.c_str();
-  wchar_t* end = nullptr;
-  double value = std::wcstod(start, &end);
-  if (end == start) return std::nullopt;
-  while (*end == L' ') ++end;
-  return *end == L'\0' && std::isfinite(value) ? std::optional(value) : std::nullopt;
+  size_t first = text.find_first_not_of(L" \t");
+  size_t last = text.find_last_not_of(L" \t");
+  if (first == std::wstring::npos) return std::nullopt;
+  return platform::ParseNumber(platform::ToNarrow(text.substr(first, last - first + 1)));
 }
 
 // Two or three numbers separated by commas; z is 0 when not given.

@@ -19,6 +19,7 @@
 #include <set>
 #include <thread>
 
+#include "CommaLocale.h"
 #include "BomListCells.h"
 #include "CfgOption.h"
 #include "DlgBomFilterSet.h"
@@ -61,6 +62,8 @@ TEST(BomListCells, MassZeroIsZeroWhateverTheDecimals) {
   EXPECT_EQ(MassText(0.0, 3), L"0");
   EXPECT_EQ(MassText(1.5, 3), L"1.500");
   EXPECT_EQ(MassText(2.456, 0), L"2");
+  CommaLocale comma;
+  EXPECT_EQ(MassText(1.5, 3), L"1.500");
 }
 
 TEST(BomListCells, ValueTypesAndRowNumbers) {

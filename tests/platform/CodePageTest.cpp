@@ -37,6 +37,10 @@ TEST(CodePage, NumbersReadAndWriteWithADecimalPointUnderACommaLocale) {
   EXPECT_EQ(platform::FormatFixed(-0.125, 1), L"-0.1");
   EXPECT_EQ(platform::FormatFixed(2.5, 0), L"2");
   EXPECT_EQ(platform::FormatFixed(1e20, 1), L"100000000000000000000.0");
+  EXPECT_EQ(platform::ParseNumber("-2.5e1"), -25.0);
+  EXPECT_EQ(platform::ParseNumber("+7"), 7.0);
+  for (const char* refused : {"5,4", "", " 1", "1 ", "nan", "inf", "1e999", "1.2.3", "0x10", "+"})
+    EXPECT_FALSE(platform::ParseNumber(refused).has_value()) << refused;
 }
 
 TEST(DebugOutput, GoesToTheInstalledSinkOnly) {

@@ -1,4 +1,5 @@
 // Tables on drawings, the notes of their cells, sheets and the mouse pick.
+#include "CommaLocale.h"
 #include "ModelFile.h"
 #include "ProArray.h"
 #include "ProAsmcomp.h"
@@ -428,6 +429,13 @@ TEST_F(SimMousePick, ScriptedOrProvidedPointsAreClickedAndAnythingElseAborts) {
   for (const wchar_t* malformed : {L"1;2", L"1,2,3,4", L"1,", L"x,y", L"1,2mm"}) {
     sim::PushAnswer("ProMousePickGet", malformed);
     EXPECT_EQ(Pick(PRO_LEFT_BUTTON, pressed, point), PRO_TK_GENERAL_ERROR) << malformed;
+  }
+  {
+    // A point is written with a decimal point wherever the host runs.
+    CommaLocale comma;
+    sim::PushAnswer("ProMousePickGet", L"10.5,-20.25");
+    ASSERT_EQ(Pick(PRO_LEFT_BUTTON, pressed, point), PRO_TK_NO_ERROR);
+    EXPECT_EQ(point, (Point{10.5, -20.25, 0}));
   }
   sim::PushAnswer("ProMousePickGet", std::nullopt);
   EXPECT_EQ(Pick(PRO_LEFT_BUTTON, pressed, point), PRO_TK_GENERAL_ERROR);

@@ -1,4 +1,5 @@
 // The message area: keyed texts from message files with their arguments.
+#include "CommaLocale.h"
 #include "Inspection.h"
 #include "ProMessage.h"
 #include "SimTest.h"
@@ -17,6 +18,11 @@ TEST_F(SimMessages, ArgumentsArePointersReadInIndexOrder) {
   int count = 3;
   std::wstring wide = L"轴";
   double at = 12.5;
+  ASSERT_EQ(ProMessageDisplay(file, const_cast<char*>("%1d of %0s: %2w at %3f, again %0s"), "bolts", &count,
+                              wide.c_str(), &at),
+            PRO_TK_NO_ERROR);
+  EXPECT_EQ(sim::Messages().currentLine, L"English 3 of bolts: 轴 at 12.500000, again bolts");
+  CommaLocale comma;
   ASSERT_EQ(ProMessageDisplay(file, const_cast<char*>("%1d of %0s: %2w at %3f, again %0s"), "bolts", &count,
                               wide.c_str(), &at),
             PRO_TK_NO_ERROR);

@@ -1,3 +1,4 @@
+#include "CommaLocale.h"
 #include "CellValues.h"
 
 #include <gtest/gtest.h>
@@ -32,6 +33,9 @@ TEST(NumberText, AsAutomationConvertsIt) {
   EXPECT_EQ(FormatNumber(0.1 + 0.2), L"0.3");
   EXPECT_EQ(FormatNumber(1e20), L"1E+20");
   EXPECT_EQ(FormatNumber(123456789012345678.0), L"1.23456789012346E+17");
+  CommaLocale comma;
+  EXPECT_EQ(FormatNumber(12.5), L"12.5");
+  EXPECT_EQ(FormatNumber(1.5e-7), L"1.5E-07");
 }
 
 TEST(CellReference, ColumnLettersBothWays) {
