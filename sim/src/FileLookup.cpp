@@ -92,9 +92,10 @@ std::optional<ModelFile> FindModelFile(const std::filesystem::path& dir, const M
 std::optional<ModelFile> ModelFileIndex::Find(const std::filesystem::path& dir, const ModelFileName& name) {
   auto [known, added] = dirs_.try_emplace(dir);
   if (added) {
-    ForEachFile(dir, [&](const std::wstring& fileName) {
+    Directory& files = known->second;
+    ForEachFile(dir, [&files](const std::wstring& fileName) {
       ModelFileName parsed = ParseModelFileName(fileName);
-      known->second[IndexKey(parsed)].push_back({fileName, parsed.version.value_or(0)});
+      files[IndexKey(parsed)].push_back({fileName, parsed.version.value_or(0)});
     });
   }
   auto entries = known->second.find(IndexKey(name));

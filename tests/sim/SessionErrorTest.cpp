@@ -2,8 +2,13 @@
 // and the key at fault; components that cannot be had are left out but
 // recorded; no model may contain itself.
 #include "Inspection.h"
+#include "SessionInput.h"
 #include "SimTest.h"
 
+#include <algorithm>
+#include <cctype>
+#include <fstream>
+#include <iterator>
 #include <map>
 
 namespace {
@@ -154,5 +159,35 @@ TEST_F(SimSessionLoad, ModelFilesWrittenDuringASessionAreFound) {
   dir.Write("work/later.prt.2", ModelJson("part", R"("name": "NEWER")"));
   EXPECT_EQ(Name(sim::OpenModel(L"later.prt")), L"NEWER");
 }
+
+// The session loader's fuzzing corpus and every input that once broke it.
+class SimFuzzInput : public SimTest, public ::testing::WithParamInterface<std::filesystem::path> {};
+
+TEST_P(SimFuzzInput, LoadsOrIsRefusedWithAReason) {
+  std::ifstream in(GetParam(), std::ios::binary);
+  std::string input{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+  WriteSessionInput(dir.path() / "session", input);
+  std::string error;
+  ProError status = sim::LoadSession(dir.path() / "session", error);
+  EXPECT_EQ(status == PRO_TK_NO_ERROR, error.empty()) << error;
+}
+
+std::vector<std::filesystem::path> FuzzInputs() {
+  std::vector<std::filesystem::path> inputs;
+  for (const char* folder : {"session", "session-findings"}) {
+    std::filesystem::path inputDir = std::filesystem::path(BOM_FUZZ_DATA_DIR) / folder;
+    if (!std::filesystem::exists(inputDir)) continue;  // no finding yet
+    for (const auto& entry : std::filesystem::directory_iterator(inputDir)) inputs.push_back(entry.path());
+  }
+  std::sort(inputs.begin(), inputs.end());
+  return inputs;
+}
+
+INSTANTIATE_TEST_SUITE_P(Corpus, SimFuzzInput, ::testing::ValuesIn(FuzzInputs()), [](const auto& info) {
+  std::string name = info.param.parent_path().filename().string() + "_" + info.param.filename().string();
+  std::replace_if(
+      name.begin(), name.end(), [](char c) { return !std::isalnum(static_cast<unsigned char>(c)); }, '_');
+  return name;
+});
 
 }  // namespace
