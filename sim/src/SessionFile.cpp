@@ -37,7 +37,8 @@ SessionFile Parse(const json& doc) {
 ProError ReadSessionFile(const std::filesystem::path& file, SessionFile& session, std::string& error) {
   std::optional<std::string> bytes = ReadBytes(file);
   if (!bytes) {
-    error = file.string() + ": cannot be read";
+    std::error_code ec;
+    error = file.string() + (std::filesystem::exists(file, ec) ? ": cannot be read" : ": missing");
     return PRO_TK_E_NOT_FOUND;
   }
   try {

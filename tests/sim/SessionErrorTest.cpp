@@ -51,7 +51,7 @@ const BadSession kBadSessions[] = {
     {"CurrentNamesNoModel",
      {{"session.json", R"({"current": "ghost.asm"})"}},
      {"session.json: key /current: ghost.asm: no model file in"}},
-    {"SessionFileMissing", {{"top.asm.1", ModelJson("assembly")}}, {"session.json: cannot be read"}},
+    {"SessionFileMissing", {{"top.asm.1", ModelJson("assembly")}}, {"session.json: missing"}},
     {"SessionFileNotJson",
      {{"session.json", "{\n  \"open\": [\n    \"a.prt\"\n"}},
      {"session.json: not JSON: parse error at line 4, column 1"}},
