@@ -25,7 +25,11 @@ void StartHost(const HostOptions& options);
 
 // Reads dir/session.json: its search path and configuration options, then
 // the models it opens; "current" becomes the model of the base window.
-// Models that fail to load are skipped; the first failure is answered.
+// Models that fail to load are skipped; the first failure is answered, and
+// `error` names the file and the key at fault and what is wrong. A model
+// that contains itself through its components fails to load. Components and
+// solids that cannot be found or read are left out (see UnloadedModels).
+ProError LoadSession(const std::filesystem::path& dir, std::string& error);
 ProError LoadSession(const std::filesystem::path& dir);
 
 // The application's text directory and language, from which the host finds
@@ -34,7 +38,8 @@ void RegisterApplication(const std::wstring& textDir, int language);
 
 // Puts a model into session without a file (its origin is empty). Names are
 // taken as given, so two models may differ only in case. Components and
-// solids are resolved like those of a loaded file.
+// solids are resolved like those of a loaded file. Null when the model
+// would contain itself through its components.
 ProMdl AddModel(const std::wstring& fileName, const ModelDef& def);
 
 // As ProMdlFiletypeLoad with the type taken from the name; null on failure.

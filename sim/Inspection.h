@@ -66,4 +66,14 @@ std::filesystem::path TrailFilePath();
 std::map<std::wstring, std::wstring> ConfigOptions();  // names in lower case
 std::vector<SessionModel> SessionModels();             // in the order loaded
 
+// A model that a loaded model refers to, as a component or a drawing's
+// solid, but that the host could not find or read: it stays out of session.
+struct UnloadedModel {
+  std::wstring fileName;  // as the referring model names it
+  std::string reason;     // the file or the places searched, and what is wrong
+};
+
+// Since StartHost, each file name once, in the order met.
+std::vector<UnloadedModel> UnloadedModels();
+
 }  // namespace sim

@@ -1,9 +1,11 @@
 #include "HostSession.h"
 
+#include <iostream>
 #include <system_error>
 
 #include "CodePage.h"
 #include "HostControl.h"
+#include "UnloadedModels.h"
 
 bool StartHostSession(const WorkbenchOptions& options, std::string& error) {
   std::error_code ec;
@@ -15,10 +17,12 @@ bool StartHostSession(const WorkbenchOptions& options, std::string& error) {
   sim::StartHost({std::filesystem::absolute(options.workdir)});
   sim::RegisterApplication(platform::ToWide(std::filesystem::absolute(options.pluginRoot).string()),
                            kHostLanguage);
-  if (sim::LoadSession(options.session) != PRO_TK_NO_ERROR) {
-    error = "cannot load the session " + options.session.string();
+  std::string why;
+  if (sim::LoadSession(options.session, why) != PRO_TK_NO_ERROR) {
+    error = "cannot load the session " + options.session.string() + ": " + why;
     return false;
   }
+  for (const std::string& line : UnloadedModelLines()) std::cerr << "bom-workbench: " << line << "\n";
   if (!options.current) return true;
   if (*options.current == L"none") return sim::SetCurrentModel(nullptr);
   ProMdl model = sim::OpenModel(*options.current);

@@ -10,4 +10,6 @@
 constexpr int kHostLanguage = 1;
 
 // False with `error` set when the session or the named model cannot be had.
+// Each model the session names but the host could not load goes to standard
+// error.
 bool StartHostSession(const WorkbenchOptions& options, std::string& error);

@@ -21,6 +21,7 @@
 #include "ProMdl.h"
 #include "TkModel.h"
 #include "Timers.h"
+#include "UnloadedModels.h"
 
 namespace {
 
@@ -71,6 +72,8 @@ MainWindow::MainWindow() {
   main->setStretchFactor(1, 2);
   setCentralWidget(main);
 
+  for (const std::string& line : UnloadedModelLines())
+    messages_->appendPlainText(QString::fromStdString(line));
   BuildMenus();
   BuildToolbar();
   RefreshModels();

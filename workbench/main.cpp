@@ -12,6 +12,7 @@
 #include "PlayJob.h"
 #include "Plugin.h"
 #include "RowsJob.h"
+#include "UnloadedModels.h"
 
 int main(int argc, char* argv[]) {
   ParseResult parsed = ParseOptions(std::vector<std::string>(argv + 1, argv + argc));
@@ -45,5 +46,8 @@ int main(int argc, char* argv[]) {
     PrintCommands(std::cout);
   }
   plugin.Stop();
+  std::string unloaded = UnloadedCountLine();
+  if ((options.job == "rows" || options.job == "bom") && !unloaded.empty())
+    std::cerr << "bom-workbench: " << unloaded << "\n";
   return exitCode;
 }

@@ -1,6 +1,7 @@
 #include "DrawingDataJson.h"
 
 #include "CodePage.h"
+#include "JsonError.h"
 
 #include <nlohmann/json.hpp>
 
@@ -104,7 +105,7 @@ json WriteTable(const TableDef& table) {
 }  // namespace
 
 void ReadDrawingData(const json& doc, ModelDef& def) {
-  for (const json& entry : doc.value("sheets", json::array())) {
+  for (const json& entry : ListAt(doc, "sheets")) {
     SheetDef sheet;
     if (entry.contains("size")) sheet.size = Wide(entry["size"]);
     if (entry.contains("transform")) sheet.transform = entry["transform"].get<Transform>();
@@ -113,8 +114,7 @@ void ReadDrawingData(const json& doc, ModelDef& def) {
   int sheetCount = def.SheetCount();
   def.currentSheet = doc.value("currentSheet", 1);
   Require(def.currentSheet >= 1 && def.currentSheet <= sheetCount, "current sheet missing");
-  for (const json& entry : doc.value("tables", json::array()))
-    def.tables.push_back(ReadTable(entry, sheetCount));
+  for (const json& entry : ListAt(doc, "tables")) def.tables.push_back(ReadTable(entry, sheetCount));
 }
 
 void WriteDrawingData(const ModelDef& def, json& doc) {

@@ -29,6 +29,9 @@ std::filesystem::path Child(const std::filesystem::path& dir, const std::wstring
   return dir / platform::ToNarrow(name);
 }
 
+// Names that SameNoCase takes as equal have the same key.
+std::wstring IndexKey(const ModelFileName& name) { return LowerCase(name.stem) + L"." + name.extension; }
+
 }  // namespace
 
 ModelFileName ParseModelFileName(std::wstring_view fileName) {
@@ -83,14 +86,25 @@ std::optional<std::filesystem::path> FindFileNoCase(const std::filesystem::path&
 }
 
 std::optional<ModelFile> FindModelFile(const std::filesystem::path& dir, const ModelFileName& name) {
+  return ModelFileIndex().Find(dir, name);
+}
+
+std::optional<ModelFile> ModelFileIndex::Find(const std::filesystem::path& dir, const ModelFileName& name) {
+  auto [known, added] = dirs_.try_emplace(dir);
+  if (added) {
+    Directory& files = known->second;
+    ForEachFile(dir, [&files](const std::wstring& fileName) {
+      ModelFileName parsed = ParseModelFileName(fileName);
+      files[IndexKey(parsed)].push_back({fileName, parsed.version.value_or(0)});
+    });
+  }
+  auto entries = known->second.find(IndexKey(name));
+  if (entries == known->second.end()) return std::nullopt;
   std::optional<ModelFile> best;
-  ForEachFile(dir, [&](const std::wstring& entry) {
-    ModelFileName candidate = ParseModelFileName(entry);
-    if (!SameNoCase(candidate.stem, name.stem) || candidate.extension != name.extension) return;
-    int version = candidate.version.value_or(0);
-    if (name.version && version != *name.version) return;
-    if (!best || version > best->version) best = ModelFile{Child(dir, entry), version};
-  });
+  for (const Entry& entry : entries->second) {
+    if (name.version && entry.version != *name.version) continue;
+    if (!best || entry.version > best->version) best = ModelFile{Child(dir, entry.fileName), entry.version};
+  }
   return best;
 }
 

@@ -5,9 +5,11 @@
 #include "ProObjects.h"
 
 #include <filesystem>
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace sim {
 
@@ -37,5 +39,21 @@ struct ModelFile {
 // The file of `stem.extension` in dir: the given version, or else the
 // highest one there.
 std::optional<ModelFile> FindModelFile(const std::filesystem::path& dir, const ModelFileName& name);
+
+// FindModelFile over directories each read once, when first asked: valid
+// while nobody writes into them, as during one load.
+class ModelFileIndex {
+ public:
+  std::optional<ModelFile> Find(const std::filesystem::path& dir, const ModelFileName& name);
+
+ private:
+  struct Entry {
+    std::wstring fileName;
+    int version = 0;
+  };
+  // By stem and extension in lower case; the entries in directory order.
+  using Directory = std::map<std::wstring, std::vector<Entry>>;
+  std::map<std::filesystem::path, Directory> dirs_;
+};
 
 }  // namespace sim

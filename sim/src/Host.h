@@ -18,6 +18,7 @@
 #include <memory>
 #include <mutex>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -66,6 +67,8 @@ struct HostState {
   std::vector<CallRecord> callLog;
   std::vector<Selected> selectionBuffer;
   DetailObjects details;  // table data and note data handed out
+  std::vector<UnloadedModel> unloaded;
+  std::set<std::wstring> unloadedNames;  // of `unloaded`, in lower case
 
   // Lookups of handles the plug-in hands back: null when the session does
   // not know them, without dereferencing them.

@@ -34,12 +34,22 @@ void StartHost(const HostOptions& options) {
   StartTrail(state.trailFile);
 }
 
-ProError LoadSession(const std::filesystem::path& dir) {
+ProError LoadSession(const std::filesystem::path& dir, std::string& error) {
+  std::error_code ec;
+  if (!std::filesystem::is_directory(dir, ec)) {
+    error = dir.string() + ": no such directory";
+    return PRO_TK_E_NOT_FOUND;
+  }
+  if (std::filesystem::is_empty(dir, ec)) {
+    error = dir.string() + ": the directory is empty, it holds no session.json";
+    return PRO_TK_E_NOT_FOUND;
+  }
   auto hold = Hold();
   Host& host = TheHost();
   HostState& state = host.state;
   SessionFile session;
-  if (ProError status = ReadSessionFile(dir / "session.json", session)) return status;
+  std::filesystem::path file = dir / "session.json";
+  if (ProError status = ReadSessionFile(file, session, error)) return status;
   state.sessionDir = NormalDir(dir);
   for (const std::wstring& entry : session.searchPath) {
     state.searchPath.push_back(NormalDir(state.sessionDir / platform::NativePath(entry)));
@@ -47,16 +57,25 @@ ProError LoadSession(const std::filesystem::path& dir) {
   for (const auto& [name, value] : session.configOptions) state.configOptions[LowerCase(name)] = value;
 
   ProError first = PRO_TK_NO_ERROR;
-  auto load = [&](const std::wstring& fileName) {
-    LoadResult loaded = LoadModel(host, fileName, PRO_MDLFILE_UNUSED);
-    if (first == PRO_TK_NO_ERROR) first = loaded.status;
+  Loader loader(host);
+  auto load = [&](const std::wstring& fileName, const std::string& key) {
+    LoadResult loaded = loader.Load(fileName, PRO_MDLFILE_UNUSED);
+    if (first == PRO_TK_NO_ERROR && loaded.status != PRO_TK_NO_ERROR) {
+      first = loaded.status;
+      error = file.string() + ": key " + key + ": " + loaded.error;
+    }
     return loaded.model;
   };
-  for (const std::wstring& fileName : session.open) load(fileName);
+  for (size_t i = 0; i < session.open.size(); ++i) load(session.open[i], "/open/" + std::to_string(i));
   if (session.current) {
-    if (Model* current = load(*session.current)) ShowInBaseWindow(state, current);
+    if (Model* current = load(*session.current, "/current")) ShowInBaseWindow(state, current);
   }
   return first;
+}
+
+ProError LoadSession(const std::filesystem::path& dir) {
+  std::string error;
+  return LoadSession(dir, error);
 }
 
 void RegisterApplication(const std::wstring& textDir, int language) {
@@ -66,7 +85,7 @@ void RegisterApplication(const std::wstring& textDir, int language) {
 
 ProMdl AddModel(const std::wstring& fileName, const ModelDef& def) {
   auto hold = Hold();
-  return Handle(AddBuiltModel(TheHost(), fileName, def));
+  return Handle(Loader(TheHost()).Add(fileName, def));
 }
 
 ProMdl OpenModel(const std::wstring& fileName) {

@@ -55,6 +55,10 @@ std::map<std::wstring, std::wstring> ConfigOptions() {
   return Snapshot([](const HostState& state) { return state.configOptions; });
 }
 
+std::vector<UnloadedModel> UnloadedModels() {
+  return Snapshot([](const HostState& state) { return state.unloaded; });
+}
+
 std::vector<SessionModel> SessionModels() {
   return Snapshot([](const HostState& state) {
     std::vector<SessionModel> models;

@@ -1,6 +1,7 @@
 #include "ModelDataJson.h"
 
 #include "CodePage.h"
+#include "JsonError.h"
 
 #include <nlohmann/json.hpp>
 
@@ -22,7 +23,8 @@ std::wstring Wide(const json& value) { return platform::ToWide(value.get<std::st
 ProParamvalueType ParameterType(const std::string& name) {
   auto known = std::find_if(std::begin(kParameterTypes), std::end(kParameterTypes),
                             [&](const auto& entry) { return name == entry.first; });
-  if (known == std::end(kParameterTypes)) throw std::invalid_argument("unknown parameter type");
+  if (known == std::end(kParameterTypes))
+    throw std::invalid_argument("\"" + name + "\" is not string, integer, double or boolean");
   return known->second;
 }
 
@@ -88,11 +90,17 @@ MassPropertiesDef ReadMassProperties(const json& entry) {
 }  // namespace
 
 void ReadModelData(const json& doc, ModelDef& def) {
-  for (const json& entry : doc.value("parameters", json::array()))
-    def.parameters.push_back(ReadParameter(entry));
+  const json& parameters = ListAt(doc, "parameters");
+  for (size_t i = 0; i < parameters.size(); ++i) {
+    try {
+      def.parameters.push_back(ReadParameter(parameters[i]));
+    } catch (const std::invalid_argument& unknown) {
+      throw KeyError("/parameters/" + std::to_string(i) + "/type", unknown.what());
+    }
+  }
   if (doc.contains("density")) def.density = doc["density"].get<double>();
   if (doc.contains("massProperties")) def.massProperties = ReadMassProperties(doc["massProperties"]);
-  for (const json& entry : doc.value("surfaces", json::array())) {
+  for (const json& entry : ListAt(doc, "surfaces")) {
     def.surfaces.push_back(
         {entry.at("min").get<std::array<double, 3>>(), entry.at("max").get<std::array<double, 3>>()});
   }

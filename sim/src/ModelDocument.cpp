@@ -2,6 +2,7 @@
 
 #include "CodePage.h"
 #include "DrawingDataJson.h"
+#include "JsonError.h"
 #include "ModelDataJson.h"
 
 #include <nlohmann/json.hpp>
@@ -29,22 +30,23 @@ ModelDef ParseDef(const json& doc) {
   std::string typeName = doc.at("type").get<std::string>();
   auto type = std::find_if(std::begin(kTypeNames), std::end(kTypeNames),
                            [&](const auto& known) { return typeName == known.first; });
-  if (type == std::end(kTypeNames)) throw std::invalid_argument("unknown model type");
+  if (type == std::end(kTypeNames))
+    throw KeyError("/type", "\"" + typeName + "\" is not part, assembly or drawing");
   def.type = type->second;
   if (doc.contains("name")) def.name = Wide(doc["name"]);
   def.subtype = doc.value("subtype", 0);
   if (doc.contains("commonName")) def.commonName = Wide(doc["commonName"]);
-  for (const json& entry : doc.value("components", json::array())) {
+  for (const json& entry : ListAt(doc, "components")) {
     ComponentDef component{entry.at("id").get<int>(), Wide(entry.at("model"))};
     if (entry.contains("transform")) component.transform = entry["transform"].get<Transform>();
     component.suppressed = entry.value("suppressed", false);
     def.components.push_back(std::move(component));
   }
-  for (const json& entry : doc.value("features", json::array())) {
+  for (const json& entry : ListAt(doc, "features")) {
     def.features.push_back(
         {entry.at("id").get<int>(), entry.contains("type") ? FeatureType(entry["type"]) : L""});
   }
-  for (const json& entry : doc.value("solids", json::array())) def.solids.push_back(Wide(entry));
+  for (const json& entry : ListAt(doc, "solids")) def.solids.push_back(Wide(entry));
   ReadModelData(doc, def);
   if (def.type == PRO_MDL_DRAWING) ReadDrawingData(doc, def);
   return def;
@@ -52,12 +54,13 @@ ModelDef ParseDef(const json& doc) {
 
 }  // namespace
 
-ProError ParseModelDocument(std::string_view text, ModelDef& def) {
-  json doc = json::parse(text, nullptr, false);
-  if (doc.is_discarded() || !doc.is_object()) return PRO_TK_INVALID_FILE;
+ProError ParseModelDocument(std::string_view text, ModelDef& def, std::string* error) {
   try {
+    json doc = json::parse(text);
+    if (!doc.is_object()) throw KeyError("", "must be a JSON object, but is " + std::string(doc.type_name()));
     def = ParseDef(doc);
-  } catch (const std::exception&) {
+  } catch (const std::exception& failure) {
+    if (error) *error = JsonErrorText(failure);
     return PRO_TK_INVALID_FILE;
   }
   return PRO_TK_NO_ERROR;

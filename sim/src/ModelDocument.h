@@ -10,8 +10,9 @@
 namespace sim {
 
 // PRO_TK_INVALID_FILE for text that is no JSON object, lacks a known `type`
-// or has a key of the wrong kind; `def` is untouched then.
-ProError ParseModelDocument(std::string_view text, ModelDef& def);
+// or has a key of the wrong kind; `def` is untouched then, and `error` (when
+// given) says where the text went wrong.
+ProError ParseModelDocument(std::string_view text, ModelDef& def, std::string* error = nullptr);
 
 std::string ModelDocument(const ModelDef& def);
 

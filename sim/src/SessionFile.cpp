@@ -2,6 +2,7 @@
 
 #include "CodePage.h"
 #include "FileLookup.h"
+#include "JsonError.h"
 
 #include <nlohmann/json.hpp>
 
@@ -19,26 +20,33 @@ std::wstring OptionValue(const json& value) {
 
 SessionFile Parse(const json& doc) {
   SessionFile session;
-  for (const json& name : doc.value("open", json::array())) session.open.push_back(Wide(name));
+  for (const json& name : ListAt(doc, "open")) session.open.push_back(Wide(name));
   if (doc.contains("current")) session.current = Wide(doc["current"]);
   json options = doc.value("configOptions", json::object());
+  if (!options.is_object())
+    throw KeyError("/configOptions", "must be an object, but is " + std::string(options.type_name()));
   for (const auto& [name, value] : options.items()) {
     session.configOptions[platform::ToWide(name)] = OptionValue(value);
   }
-  for (const json& dir : doc.value("searchPath", json::array())) session.searchPath.push_back(Wide(dir));
+  for (const json& dir : ListAt(doc, "searchPath")) session.searchPath.push_back(Wide(dir));
   return session;
 }
 
 }  // namespace
 
-ProError ReadSessionFile(const std::filesystem::path& file, SessionFile& session) {
+ProError ReadSessionFile(const std::filesystem::path& file, SessionFile& session, std::string& error) {
   std::optional<std::string> bytes = ReadBytes(file);
-  if (!bytes) return PRO_TK_E_NOT_FOUND;
-  json doc = json::parse(*bytes, nullptr, false);
-  if (doc.is_discarded() || !doc.is_object()) return PRO_TK_INVALID_FILE;
+  if (!bytes) {
+    std::error_code ec;
+    error = file.string() + (std::filesystem::exists(file, ec) ? ": cannot be read" : ": missing");
+    return PRO_TK_E_NOT_FOUND;
+  }
   try {
+    json doc = json::parse(*bytes);
+    if (!doc.is_object()) throw KeyError("", "must be a JSON object, but is " + std::string(doc.type_name()));
     session = Parse(doc);
-  } catch (const json::exception&) {
+  } catch (const std::exception& failure) {
+    error = file.string() + ": " + JsonErrorText(failure);
     return PRO_TK_INVALID_FILE;
   }
   return PRO_TK_NO_ERROR;

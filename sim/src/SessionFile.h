@@ -18,7 +18,8 @@ struct SessionFile {
   std::vector<std::wstring> searchPath;  // relative to the session directory
 };
 
-// PRO_TK_E_NOT_FOUND without the file, PRO_TK_INVALID_FILE for bad content.
-ProError ReadSessionFile(const std::filesystem::path& file, SessionFile& session);
+// PRO_TK_E_NOT_FOUND without the file, PRO_TK_INVALID_FILE for bad content;
+// `error` then says what is wrong and where.
+ProError ReadSessionFile(const std::filesystem::path& file, SessionFile& session, std::string& error);
 
 }  // namespace sim

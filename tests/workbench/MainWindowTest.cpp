@@ -99,6 +99,17 @@ TEST_F(MainWindowTest, ClickingACommandOpensItsDialogAndShowsTheTrail) {
   EXPECT_TRUE(trail->toPlainText().contains("#QK~DlgBomShow~ShowListCtrl~GetChek"));
 }
 
+TEST_F(MainWindowTest, ModelsThatCouldNotBeLoadedShowInTheMessageArea) {
+  auto* messages = window->findChild<QPlainTextEdit*>("MessageArea");
+  EXPECT_FALSE(messages->toPlainText().contains("could not load")) << "nothing is missing in the sample";
+  dir_.Write("work/lost.asm", R"({"type": "assembly", "components": [{"id": 1, "model": "gone.prt"}]})");
+  ASSERT_NE(sim::OpenModel(L"lost.asm"), nullptr);
+  MainWindow next;
+  QString shown = next.findChild<QPlainTextEdit*>("MessageArea")->toPlainText();
+  EXPECT_TRUE(shown.startsWith("could not load gone.prt: gone.prt: no model file in "))
+      << shown.toStdString();
+}
+
 int firings = 0;
 void CountFiring(void*, unsigned, std::uintptr_t, unsigned long) { ++firings; }
 

@@ -76,3 +76,35 @@ TEST_F(RowsJobTest, PartAsCurrentModelHasNoListAndBadOptionsAreRefused) {
   EXPECT_EQ(Rows("--level tree").exitCode, 2);
   EXPECT_EQ(Rows("--level multi --same-asm-cmps 2").exitCode, 2);
 }
+
+// A session of the user's own, with parts whose files are gone or broken.
+TEST_F(RowsJobTest, ModelsThatCannotBeLoadedAreReportedAndCounted) {
+  dir_.Write("session/session.json", R"({"current": "top.asm"})");
+  dir_.Write("session/top.asm.1", R"({"type": "assembly", "components": [{"id": 1, "model": "gone.prt"},
+      {"id": 2, "model": "bad.prt"}, {"id": 3, "model": "ok.prt"}]})");
+  dir_.Write("session/bad.prt.1", R"({"type": "part", "parameters": 5})");
+  dir_.Write("session/ok.prt.1", R"({"type": "part"})");
+  JobRun run = Rows("--level single --session '" + (dir_.path() / "session").string() + "'");
+  ASSERT_EQ(run.exitCode, 0) << run.all();
+  EXPECT_EQ(run.lines, (std::vector<std::string>{"-1\t\tTOP\tassembly\t1", "-1\t\tOK\tpart\t1"}));
+  std::vector<std::string> err = SplitLines(run.err);
+  ASSERT_EQ(err.size(), 3u) << run.err;
+  EXPECT_EQ(err[0].rfind("bom-workbench: could not load gone.prt: gone.prt: no model file in ", 0), 0u)
+      << err[0];
+  EXPECT_EQ(err[1], "bom-workbench: could not load bad.prt: " + (dir_.path() / "session/bad.prt.1").string() +
+                        ": key /parameters: must be a list, but is number");
+  EXPECT_EQ(err[2], "bom-workbench: 2 models could not be loaded");
+
+  EXPECT_EQ(Rows("--level single").err, "") << "nothing is missing in the sample";
+}
+
+TEST_F(RowsJobTest, ASessionThatCannotLoadIsRefusedWithTheFileAndTheKey) {
+  dir_.Write("session/session.json", "{\"current\": \"top.asm\"}");
+  dir_.Write("session/top.asm.1", R"({"type": "assembly", "components": [{"id": "six", "model": "a.prt"}]})");
+  JobRun run = Rows("--level single --session '" + (dir_.path() / "session").string() + "'");
+  EXPECT_EQ(run.exitCode, 1);
+  EXPECT_EQ(run.err, "bom-workbench: cannot load the session " + (dir_.path() / "session").string() + ": " +
+                         (dir_.path() / "session/session.json").string() +
+                         ": key /current: " + (dir_.path() / "session/top.asm.1").string() +
+                         ": key /components/0/id: type must be number, but is string\n");
+}
