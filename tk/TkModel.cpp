@@ -54,7 +54,9 @@ ProError ComponentVisit(ProFeature* feature, ProError, ProAppData data) {
 
   ProMdlType type = PRO_MDL_UNUSED;
   ProMdlTypeGet(mdl, &type);
-  if (type != PRO_MDL_ASSEMBLY) return PRO_TK_NO_ERROR;
+  // Below the host's deepest path nothing can be taken, so the walk ends
+  // there, however deep the assembly goes.
+  if (type != PRO_MDL_ASSEMBLY || cmp.path.table_num >= PRO_MAX_ASSEM_LEVEL) return PRO_TK_NO_ERROR;
 
   WalkContext child{{}, cmp.path};
   ProSolidFeatVisit(static_cast<ProSolid>(mdl), ComponentVisit, ComponentFilter, &child);
