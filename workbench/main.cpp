@@ -47,7 +47,7 @@ int main(int argc, char* argv[]) {
   }
   plugin.Stop();
   std::string unloaded = UnloadedCountLine();
-  if ((options.job == "rows" || options.job == "bom") && !unloaded.empty())
+  if ((options.job == "rows" || options.job == "bom" || options.job == "play") && !unloaded.empty())
     std::cerr << "bom-workbench: " << unloaded << "\n";
   return exitCode;
 }
