@@ -160,7 +160,7 @@ void XlsxWorkbook::SetCellText(std::wstring_view sheetName, int row, int column,
   Sheet& sheet = const_cast<Sheet&>(FindWorksheet(sheetName));
   CheckCellRange(row, column, kRowLimit, kColumnLimit);
   pugi::xml_node cell = sheet.cells->FindCell(row, column);
-  if (sheet.cells->InFormulaGroup(row, column)) {
+  if (sheet.cells->InFormulaGroup(row, column, cell)) {
     throw Error("cell (row " + std::to_string(row) + ", column " + std::to_string(column) + ") of sheet " +
                 Quoted(sheetName) + " belongs to an array or shared formula and cannot be overwritten");
   }
@@ -168,12 +168,14 @@ void XlsxWorkbook::SetCellText(std::wstring_view sheetName, int row, int column,
   std::optional<int> newStyle = cell ? std::nullopt : sheet.cells->StyleForNewCell(row, column);
   int style = cell ? cell.attribute("s").as_int() : newStyle.value_or(0);
   std::optional<double> number = IsTextFormat(style) ? std::nullopt : ParseTypedNumber(text);
-  if (!cell) cell = sheet.cells->MakeCell(row, column, newStyle);
-
-  if (std::string_view(cell.attribute("t").value()) == "s") --stringReferenceChange_;
-  cell.remove_attribute("t");
-  for (const char* child : {"f", "v", "is"}) {
-    while (pugi::xml_node old = Child(cell, child)) cell.remove_child(old);
+  if (cell) {
+    if (std::string_view(cell.attribute("t").value()) == "s") --stringReferenceChange_;
+    cell.remove_attribute("t");
+    for (const char* child : {"f", "v", "is"}) {
+      while (pugi::xml_node old = Child(cell, child)) cell.remove_child(old);
+    }
+  } else {
+    cell = sheet.cells->MakeCell(row, column, newStyle);
   }
   if (!text.empty()) {
     pugi::xml_node value = NewChild(cell, "v", cell.first_child());
