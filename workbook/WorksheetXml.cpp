@@ -45,6 +45,14 @@ std::pair<int, int> ParseSpan(std::string_view span, std::string_view separator)
           std::atoi(std::string(span.substr(at + 1)).c_str())};
 }
 
+// The first of a row's cells at or after `column`; new cells mostly go last.
+template <class Cells>
+auto CellAtOrAfter(Cells& cells, int column) {
+  if (cells.empty() || cells.back().first < column) return cells.end();
+  return std::lower_bound(cells.begin(), cells.end(), column,
+                          [](const auto& cell, int wanted) { return cell.first < wanted; });
+}
+
 }  // namespace
 
 WorksheetXml::WorksheetXml(const Bytes& xml, std::string_view part) {
@@ -65,7 +73,12 @@ WorksheetXml::WorksheetXml(const Bytes& xml, std::string_view part) {
       int column = PositionOf(cell, previousColumn, false);
       if (!cell.attribute("r")) cell.append_attribute("r") = FormatCellRef(rowNumber, column).c_str();
       previousColumn = column;
-      entry.cells[column] = cell;
+      auto at = CellAtOrAfter(entry.cells, column);
+      if (at != entry.cells.end() && at->first == column) {
+        at->second = cell;
+      } else {
+        entry.cells.emplace(at, column, cell);
+      }
       pugi::xml_node formula = Child(cell, "f");
       if (std::string_view(formula.attribute("t").value()) == "array") {
         if (auto range = ParseRange(formula.attribute("ref").value()))
@@ -88,8 +101,9 @@ WorksheetXml::WorksheetXml(const Bytes& xml, std::string_view part) {
 pugi::xml_node WorksheetXml::FindCell(int row, int column) const {
   auto rowIt = rows_.find(row);
   if (rowIt == rows_.end()) return {};
-  auto cellIt = rowIt->second.cells.find(column);
-  return cellIt == rowIt->second.cells.end() ? pugi::xml_node() : cellIt->second;
+  const Cells& cells = rowIt->second.cells;
+  auto cellIt = CellAtOrAfter(cells, column);
+  return cellIt == cells.end() || cellIt->first != column ? pugi::xml_node() : cellIt->second;
 }
 
 std::optional<int> WorksheetXml::StyleForNewCell(int row, int column) const {
@@ -130,13 +144,13 @@ pugi::xml_node WorksheetXml::MakeCell(int row, int column, std::optional<int> st
   auto rowIt = rows_.find(row);
   if (rowIt == rows_.end()) rowIt = MakeRow(row);
   Row& entry = rowIt->second;
-  auto next = entry.cells.lower_bound(column);
+  auto next = CellAtOrAfter(entry.cells, column);
   if (next != entry.cells.end() && next->first == column) return next->second;
   pugi::xml_node cell =
       NewChild(entry.node, "c", next == entry.cells.end() ? pugi::xml_node() : next->second);
   cell.append_attribute("r") = FormatCellRef(row, column).c_str();
   if (style) cell.append_attribute("s") = *style;
-  entry.cells.emplace_hint(next, column, cell);
+  entry.cells.emplace(next, column, cell);
 
   if (pugi::xml_attribute spans = entry.node.attribute("spans")) ExtendSpans(spans, column);
   ExtendDimension(row, column);

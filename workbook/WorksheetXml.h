@@ -35,9 +35,12 @@ class WorksheetXml {
   Bytes Write() const;
 
  private:
+  // A row's cells by column, in column order: new cells mostly come last,
+  // where a vector grows cheaper than a tree.
+  using Cells = std::vector<std::pair<int, pugi::xml_node>>;
   struct Row {
     pugi::xml_node node;
-    std::map<int, pugi::xml_node> cells;
+    Cells cells;
   };
   struct Range {
     CellRef first;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 
 #include "CellValues.h"
 #include "OoxmlXml.h"
@@ -40,7 +41,12 @@ std::string FolderOf(const std::string& part) {
 
 std::string NumberText(double value) {
   char buffer[32];
-  auto result = std::to_chars(buffer, buffer + sizeof buffer, value);
+  // Whole numbers below 2^53 (but zero, which may be -0) read the same
+  // either way; the integer conversion is the cheaper one.
+  constexpr double kExactIntegers = 9007199254740992.0;
+  auto result = value != 0 && std::trunc(value) == value && std::fabs(value) < kExactIntegers
+                    ? std::to_chars(buffer, buffer + sizeof buffer, static_cast<long long>(value))
+                    : std::to_chars(buffer, buffer + sizeof buffer, value);
   return std::string(buffer, result.ptr);
 }
 
