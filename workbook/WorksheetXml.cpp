@@ -99,17 +99,17 @@ WorksheetXml::WorksheetXml(const Bytes& xml, std::string_view part) {
 }
 
 pugi::xml_node WorksheetXml::FindCell(int row, int column) const {
-  auto rowIt = rows_.find(row);
-  if (rowIt == rows_.end()) return {};
-  const Cells& cells = rowIt->second.cells;
+  const Row* entry = FindRow(row);
+  if (!entry) return {};
+  const Cells& cells = entry->cells;
   auto cellIt = CellAtOrAfter(cells, column);
   return cellIt == cells.end() || cellIt->first != column ? pugi::xml_node() : cellIt->second;
 }
 
 std::optional<int> WorksheetXml::StyleForNewCell(int row, int column) const {
-  auto rowIt = rows_.find(row);
-  if (rowIt != rows_.end() && rowIt->second.node.attribute("customFormat").as_bool()) {
-    return rowIt->second.node.attribute("s").as_int();
+  const Row* entry = FindRow(row);
+  if (entry && entry->node.attribute("customFormat").as_bool()) {
+    return entry->node.attribute("s").as_int();
   }
   if (modelRow_ && row > lastReadRow_) {
     if (pugi::xml_node model = FindCell(*modelRow_, column)) return model.attribute("s").as_int();
@@ -130,6 +130,15 @@ bool WorksheetXml::InFormulaGroup(int row, int column, pugi::xml_node cell) cons
   if (!cell) return false;
   pugi::xml_node formula = Child(cell, "f");
   return std::string_view(formula.attribute("t").value()) == "shared" && formula.attribute("ref");
+}
+
+const WorksheetXml::Row* WorksheetXml::FindRow(int row) const {
+  if (!lastFound_ || lastFound_->first != row) {
+    auto found = rows_.find(row);
+    if (found == rows_.end()) return nullptr;
+    lastFound_ = &*found;
+  }
+  return &lastFound_->second;
 }
 
 WorksheetXml::RowMap::iterator WorksheetXml::MakeRow(int row) {

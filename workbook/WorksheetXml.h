@@ -55,6 +55,9 @@ class WorksheetXml {
 
   using RowMap = std::map<int, Row>;
 
+  // The row, null when it is missing. Remembers the last row found, as
+  // cells come row by row.
+  const Row* FindRow(int row) const;
   RowMap::iterator MakeRow(int row);
   void ExtendSpans(pugi::xml_attribute spans, int column);
   void ExtendDimension(int row, int column);
@@ -62,6 +65,7 @@ class WorksheetXml {
   pugi::xml_document document_;
   pugi::xml_node sheetData_;
   RowMap rows_;
+  mutable const RowMap::value_type* lastFound_ = nullptr;
   std::vector<Range> arrays_;
   // <cols> with a style, read once: the engine never changes them.
   std::vector<ColumnStyle> columnStyles_;
