@@ -39,6 +39,7 @@ std::wstring Unescape(std::wstring_view text) {
 
 std::wstring Escape(std::wstring_view text) {
   std::wstring out;
+  out.reserve(text.size());
   for (size_t i = 0; i < text.size(); ++i) {
     wchar_t c = text[i];
     bool control = c < 0x20 && c != L'\t' && c != L'\n' && c != L'\r';

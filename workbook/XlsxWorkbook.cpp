@@ -104,6 +104,7 @@ XlsxWorkbook::XlsxWorkbook(const Bytes& image) : package_(ZipPackage::Read(image
 void XlsxWorkbook::ReadSharedStrings() {
   if (sharedStringsPart_.empty()) return;
   ParsePart(sharedStrings_, PartData(package_, sharedStringsPart_), sharedStringsPart_);
+  readStringReferences_ = sharedStrings_.document_element().attribute("count").as_llong();
   for (pugi::xml_node item : sharedStrings_.document_element().children()) {
     if (LocalName(item) != "si") continue;
     strings_.push_back(ItemText(item));
@@ -255,15 +256,13 @@ Bytes XlsxWorkbook::Save() const {
   }
 
   if (sharedStringsChanged_ || stringReferenceChange_ != 0) {
-    pugi::xml_document strings;
-    strings.reset(sharedStrings_);
-    pugi::xml_node root = strings.document_element();
+    pugi::xml_node root = sharedStrings_.document_element();
     SetCount(root, "uniqueCount", static_cast<long long>(strings_.size()));
-    SetCount(root, "count", root.attribute("count").as_llong() + stringReferenceChange_);
+    SetCount(root, "count", readStringReferences_ + stringReferenceChange_);
     if (ZipPart* part = package.Find(sharedStringsPart_)) {
-      part->data = WritePart(strings);
+      part->data = WritePart(sharedStrings_);
     } else {
-      package.Add(sharedStringsPart_, WritePart(strings));
+      package.Add(sharedStringsPart_, WritePart(sharedStrings_));
       packageChanged = true;
       pugi::xml_node relationship = NewChild(relations.document_element(), "Relationship");
       relationship.append_attribute("Id") = NewRelationshipId(relations_).c_str();
