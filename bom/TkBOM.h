@@ -18,6 +18,8 @@
 #include "TkModel.h"
 #include "TkParam.h"
 
+struct BomFillCache;
+
 using BomCmpIdTable = std::array<int, PRO_MAX_ASSEM_LEVEL>;
 
 class TkBOM {
@@ -65,15 +67,17 @@ class TkBOM {
   int HighLightBomMdl(const BomMdl& row) const;
   int ClearHighLight() const;
   // The three sizes of the row's first occurrence, as `prefix` s1 `separator`
-  // s2 `separator` s3 `suffix`, ascending when `sortDims` is not 0.
+  // s2 `separator` s3 `suffix`, ascending when `sortDims` is not 0. The box
+  // is taken from `cache` when it holds it, and kept there otherwise.
   int GetPartOutSize(const BomMdl& row, std::wstring& text, int sortDims, int decimals,
-                     const std::wstring& separator, const std::wstring& prefix,
-                     const std::wstring& suffix) const;
+                     const std::wstring& separator, const std::wstring& prefix, const std::wstring& suffix,
+                     BomFillCache* cache = nullptr) const;
   int GetParentName(const BomMdl& row, std::wstring& text) const;
   int GetParentParam(const BomMdl& row, const std::wstring& paramName, std::wstring& text) const;
   // A part's mass; an assembly's is the sum over all its part occurrences,
-  // suppressed ones too.
-  int GetMdlMass(ProMdl mdl, double& mass) const;
+  // suppressed ones too. Masses in `cache` are not asked again; the
+  // assembly's and its parts' are kept there.
+  int GetMdlMass(ProMdl mdl, double& mass, BomFillCache* cache = nullptr) const;
   // Today as "2024.03.07".
   std::wstring GetTodayText() const;
 
@@ -90,6 +94,10 @@ class TkBOM {
   // The rows IsRowFilteredOut takes out, tested from the last to the first.
   void RemoveFilteredRows(const BomCollectFilter& filter, std::vector<BomMdl>& rows) const;
   int GetPartMass(ProMdl part, double& mass) const;
+  int GetPartMass(ProMdl part, double& mass, BomFillCache* cache) const;
+  int ComputeMdlMass(ProMdl mdl, double& mass, BomFillCache* cache) const;
+  // The outline box of a model of `type`, an assembly's in the frame of `path`.
+  int GetOutlineBox(ProMdl mdl, int type, ProAsmcomppath path, std::array<double, 6>& box) const;
   std::wstring Tag(const std::wstring& function, const std::wstring& step) const;
 
   CTkModel model_;

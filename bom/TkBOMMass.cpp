@@ -2,6 +2,7 @@
 #include <ctime>
 #include <cwchar>
 
+#include "BomFillCache.h"
 #include "ProPart.h"
 #include "ProSolid.h"
 #include "TkBOM.h"
@@ -24,7 +25,19 @@ int TkBOM::GetPartMass(ProMdl part, double& mass) const {
   return 0;
 }
 
-int TkBOM::GetMdlMass(ProMdl mdl, double& mass) const {
+int TkBOM::GetPartMass(ProMdl part, double& mass, BomFillCache* cache) const {
+  if (!cache) return GetPartMass(part, mass);
+  return Remembered(cache->masses, part, mass, [&](double& value) { return GetPartMass(part, value); });
+}
+
+int TkBOM::GetMdlMass(ProMdl mdl, double& mass, BomFillCache* cache) const {
+  if (!cache) return ComputeMdlMass(mdl, mass, nullptr);
+  return Remembered(cache->masses, mdl, mass,
+                    [&](double& value) { return ComputeMdlMass(mdl, value, cache); });
+}
+
+// The mass asked of the host; the assembly's parts come from `cache` when given.
+int TkBOM::ComputeMdlMass(ProMdl mdl, double& mass, BomFillCache* cache) const {
   mass = 0.0;
   int type = 0;
   if (int status = model_.GetMdlType(mdl, type)) return status;
@@ -35,7 +48,7 @@ int TkBOM::GetMdlMass(ProMdl mdl, double& mass) const {
     int cmpType = 0;
     double partMass = 0.0;
     if (model_.GetMdlType(cmp.mdl, cmpType) == PRO_TK_NO_ERROR && cmpType == CTkModel::kPart) {
-      GetPartMass(cmp.mdl, partMass);
+      GetPartMass(cmp.mdl, partMass, cache);
       mass += partMass;
     }
   }

@@ -78,16 +78,16 @@ std::wstring CBomListCells::KindText(const ColInfo& col, const BomMdl& row, int 
     case PARAMTYPE_QTY:
       return std::to_wstring(row.quantity);
     case PARAMTYPE_OUTSIZE:
-      bom_.GetPartOutSize(row, text, 1, 0, L"X", L"", L"");
+      bom_.GetPartOutSize(row, text, 1, 0, L"X", L"", L"", &cache_);
       return Logged(L"PARAMTYPE_OUTSIZE", text);
     case PARAMTYPE_PARENTNAME:
       bom_.GetParentName(row, text);
       return text;
     case PARAMTYPE_UNITMASS:
-      bom_.GetMdlMass(row.mdl, mass);
+      bom_.GetMdlMass(row.mdl, mass, &cache_);
       return MassText(mass, massDecimals_);
     case PARAMTYPE_TOTALMASS:
-      bom_.GetMdlMass(row.mdl, mass);
+      bom_.GetMdlMass(row.mdl, mass, &cache_);
       return MassText(mass * row.quantity, massDecimals_);
     default:
       return L"";

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "BomFillCache.h"
 #include "BomMdl.h"
 #include "ColInfo.h"
 #include "TkBOM.h"
@@ -30,6 +31,8 @@ bool IsSortParamMissing(int selection, const std::vector<ColInfo>& sortCols);
 // component id above 99999 are not shown; the top row is.
 bool IsRowShown(const BomMdl& row);
 
+// The cells of one filling of the list: each model's mass and outline box
+// is asked of the host once while the object lives, so make one per filling.
 class CBomListCells {
  public:
   CBomListCells(std::wstring levelSign, int massDecimals);
@@ -48,4 +51,5 @@ class CBomListCells {
   CTkModel model_;
   CTkParam param_;
   CTkLog log_;
+  mutable BomFillCache cache_;
 };

@@ -240,7 +240,9 @@ void CellTable::Put(uint16_t row, uint16_t column, Record cell) {
       }
     }
   }
-  cells[column] = {column, column, {std::move(cell)}};
+  CellEntry& entry = cells[column];
+  entry = {column, column, {}};
+  entry.records.push_back(std::move(cell));
 }
 
 size_t CellTable::CountCellsOfType(uint16_t type) const {

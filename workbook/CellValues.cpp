@@ -101,10 +101,11 @@ std::optional<CellRef> ParseCellRef(std::string_view reference) {
 }
 
 std::string FormatCellRef(int row, int column) {
-  std::string letters;
-  for (int c = column; c > 0; c = (c - 1) / 26)
-    letters.insert(letters.begin(), static_cast<char>('A' + (c - 1) % 26));
-  return letters + std::to_string(row);
+  char text[32];
+  char* letters = text + 8;  // filled backwards: columns have at most 5 letters
+  for (int c = column; c > 0; c = (c - 1) / 26) *--letters = static_cast<char>('A' + (c - 1) % 26);
+  char* end = std::to_chars(text + 8, text + sizeof text, row).ptr;
+  return std::string(letters, end);
 }
 
 }  // namespace workbook

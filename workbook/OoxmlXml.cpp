@@ -2,7 +2,6 @@
 
 #include <cstdio>
 #include <cwctype>
-#include <sstream>
 
 #include "Error.h"
 #include "TextCodec.h"
@@ -40,6 +39,7 @@ std::wstring Unescape(std::wstring_view text) {
 
 std::wstring Escape(std::wstring_view text) {
   std::wstring out;
+  out.reserve(text.size());
   for (size_t i = 0; i < text.size(); ++i) {
     wchar_t c = text[i];
     bool control = c < 0x20 && c != L'\t' && c != L'\n' && c != L'\r';
@@ -56,6 +56,14 @@ std::wstring Escape(std::wstring_view text) {
 
 std::wstring TextOf(pugi::xml_node t) { return Unescape(FromUtf8(t.text().get())); }
 
+struct BytesWriter : pugi::xml_writer {
+  Bytes bytes;
+  void write(const void* data, size_t size) override {
+    const auto* begin = static_cast<const uint8_t*>(data);
+    bytes.insert(bytes.end(), begin, begin + size);
+  }
+};
+
 }  // namespace
 
 void ParsePart(pugi::xml_document& document, const Bytes& xml, std::string_view part) {
@@ -68,10 +76,9 @@ void ParsePart(pugi::xml_document& document, const Bytes& xml, std::string_view 
 }
 
 Bytes WritePart(const pugi::xml_document& document) {
-  std::ostringstream out;
-  document.save(out, "", pugi::format_raw, pugi::encoding_utf8);
-  std::string text = out.str();
-  return Bytes(text.begin(), text.end());
+  BytesWriter writer;
+  document.save(writer, "", pugi::format_raw, pugi::encoding_utf8);
+  return std::move(writer.bytes);
 }
 
 std::string_view LocalName(pugi::xml_node node) {

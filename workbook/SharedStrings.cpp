@@ -127,7 +127,7 @@ const std::u16string& SharedStrings::Text(uint32_t index) const {
 }
 
 uint32_t SharedStrings::Add(const std::u16string& text) {
-  auto [found, inserted] = plainIndex_.emplace(text, static_cast<uint32_t>(entries_.size()));
+  auto [found, inserted] = plainIndex_.try_emplace(text, static_cast<uint32_t>(entries_.size()));
   if (inserted) entries_.push_back({text, 0, {}, {}});
   return found->second;
 }

@@ -100,7 +100,7 @@ std::string ToUtf8(std::wstring_view text) {
 bool SameSheetName(std::wstring_view a, std::wstring_view b) {
   if (a.size() != b.size()) return false;
   for (size_t i = 0; i < a.size(); ++i) {
-    if (std::towlower(a[i]) != std::towlower(b[i])) return false;
+    if (a[i] != b[i] && std::towlower(a[i]) != std::towlower(b[i])) return false;
   }
   return true;
 }

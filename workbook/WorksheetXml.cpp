@@ -45,6 +45,14 @@ std::pair<int, int> ParseSpan(std::string_view span, std::string_view separator)
           std::atoi(std::string(span.substr(at + 1)).c_str())};
 }
 
+// The first of a row's cells at or after `column`; new cells mostly go last.
+template <class Cells>
+auto CellAtOrAfter(Cells& cells, int column) {
+  if (cells.empty() || cells.back().first < column) return cells.end();
+  return std::lower_bound(cells.begin(), cells.end(), column,
+                          [](const auto& cell, int wanted) { return cell.first < wanted; });
+}
+
 }  // namespace
 
 WorksheetXml::WorksheetXml(const Bytes& xml, std::string_view part) {
@@ -65,7 +73,12 @@ WorksheetXml::WorksheetXml(const Bytes& xml, std::string_view part) {
       int column = PositionOf(cell, previousColumn, false);
       if (!cell.attribute("r")) cell.append_attribute("r") = FormatCellRef(rowNumber, column).c_str();
       previousColumn = column;
-      entry.cells[column] = cell;
+      auto at = CellAtOrAfter(entry.cells, column);
+      if (at != entry.cells.end() && at->first == column) {
+        at->second = cell;
+      } else {
+        entry.cells.emplace(at, column, cell);
+      }
       pugi::xml_node formula = Child(cell, "f");
       if (std::string_view(formula.attribute("t").value()) == "array") {
         if (auto range = ParseRange(formula.attribute("ref").value()))
@@ -74,85 +87,101 @@ WorksheetXml::WorksheetXml(const Bytes& xml, std::string_view part) {
     }
   }
   if (!rows_.empty()) lastReadRow_ = rows_.rbegin()->first;
+
+  for (pugi::xml_node range : Child(document_.document_element(), "cols").children()) {
+    if (LocalName(range) == "col" && range.attribute("style")) {
+      columnStyles_.push_back({range.attribute("min").as_int(), range.attribute("max").as_int(),
+                               range.attribute("style").as_int()});
+    }
+  }
+  dimension_ = Child(document_.document_element(), "dimension").attribute("ref");
+  if (auto bounds = ParseRange(dimension_.value())) dimensionRange_ = Range{bounds->first, bounds->second};
 }
 
 pugi::xml_node WorksheetXml::FindCell(int row, int column) const {
-  auto rowIt = rows_.find(row);
-  if (rowIt == rows_.end()) return {};
-  auto cellIt = rowIt->second.cells.find(column);
-  return cellIt == rowIt->second.cells.end() ? pugi::xml_node() : cellIt->second;
+  const Row* entry = FindRow(row);
+  if (!entry) return {};
+  const Cells& cells = entry->cells;
+  auto cellIt = CellAtOrAfter(cells, column);
+  return cellIt == cells.end() || cellIt->first != column ? pugi::xml_node() : cellIt->second;
 }
 
 std::optional<int> WorksheetXml::StyleForNewCell(int row, int column) const {
-  auto rowIt = rows_.find(row);
-  if (rowIt != rows_.end() && rowIt->second.node.attribute("customFormat").as_bool()) {
-    return rowIt->second.node.attribute("s").as_int();
+  const Row* entry = FindRow(row);
+  if (entry && entry->node.attribute("customFormat").as_bool()) {
+    return entry->node.attribute("s").as_int();
   }
   if (modelRow_ && row > lastReadRow_) {
     if (pugi::xml_node model = FindCell(*modelRow_, column)) return model.attribute("s").as_int();
   }
-  pugi::xml_node columns = Child(document_.document_element(), "cols");
-  for (pugi::xml_node range : columns.children()) {
-    if (LocalName(range) != "col") continue;
-    if (range.attribute("min").as_int() <= column && column <= range.attribute("max").as_int() &&
-        range.attribute("style")) {
-      return range.attribute("style").as_int();
-    }
+  for (const ColumnStyle& range : columnStyles_) {
+    if (range.min <= column && column <= range.max) return range.style;
   }
   return std::nullopt;
 }
 
-bool WorksheetXml::InFormulaGroup(int row, int column) const {
+bool WorksheetXml::InFormulaGroup(int row, int column, pugi::xml_node cell) const {
   for (const Range& range : arrays_) {
     if (range.first.row <= row && row <= range.last.row && range.first.column <= column &&
         column <= range.last.column) {
       return true;
     }
   }
-  pugi::xml_node formula = Child(FindCell(row, column), "f");
+  if (!cell) return false;
+  pugi::xml_node formula = Child(cell, "f");
   return std::string_view(formula.attribute("t").value()) == "shared" && formula.attribute("ref");
 }
 
-pugi::xml_node WorksheetXml::MakeRow(int row) {
+const WorksheetXml::Row* WorksheetXml::FindRow(int row) const {
+  if (!lastFound_ || lastFound_->first != row) {
+    auto found = rows_.find(row);
+    if (found == rows_.end()) return nullptr;
+    lastFound_ = &*found;
+  }
+  return &lastFound_->second;
+}
+
+WorksheetXml::RowMap::iterator WorksheetXml::MakeRow(int row) {
   auto next = rows_.upper_bound(row);
   pugi::xml_node node =
       NewChild(sheetData_, "row", next == rows_.end() ? pugi::xml_node() : next->second.node);
   node.append_attribute("r") = row;
-  rows_[row].node = node;
-  return node;
+  return rows_.emplace_hint(next, row, Row{node, {}});
 }
 
 pugi::xml_node WorksheetXml::MakeCell(int row, int column, std::optional<int> style) {
-  if (pugi::xml_node existing = FindCell(row, column)) return existing;
-  if (!rows_.count(row)) MakeRow(row);
-  Row& entry = rows_[row];
-  auto next = entry.cells.upper_bound(column);
+  auto rowIt = rows_.find(row);
+  if (rowIt == rows_.end()) rowIt = MakeRow(row);
+  Row& entry = rowIt->second;
+  auto next = CellAtOrAfter(entry.cells, column);
+  if (next != entry.cells.end() && next->first == column) return next->second;
   pugi::xml_node cell =
       NewChild(entry.node, "c", next == entry.cells.end() ? pugi::xml_node() : next->second);
   cell.append_attribute("r") = FormatCellRef(row, column).c_str();
   if (style) cell.append_attribute("s") = *style;
-  entry.cells[column] = cell;
+  entry.cells.emplace(next, column, cell);
 
-  if (pugi::xml_attribute spans = entry.node.attribute("spans")) ExtendRange(spans, row, column, true);
-  if (pugi::xml_attribute dimension = Child(document_.document_element(), "dimension").attribute("ref")) {
-    ExtendRange(dimension, row, column, false);
-  }
+  if (pugi::xml_attribute spans = entry.node.attribute("spans")) ExtendSpans(spans, column);
+  ExtendDimension(row, column);
   return cell;
 }
 
-void WorksheetXml::ExtendRange(pugi::xml_attribute range, int row, int column, bool columnsOnly) {
-  if (columnsOnly) {
-    auto [first, last] = ParseSpan(range.value(), ":");
-    if (first < 1) return;
-    range = (std::to_string(std::min(first, column)) + ":" + std::to_string(std::max(last, column))).c_str();
-    return;
-  }
-  auto bounds = ParseRange(range.value());
-  if (!bounds) return;
-  auto [first, last] = *bounds;
-  std::string from = FormatCellRef(std::min(first.row, row), std::min(first.column, column));
-  std::string to = FormatCellRef(std::max(last.row, row), std::max(last.column, column));
-  range = (from == to ? from : from + ":" + to).c_str();
+void WorksheetXml::ExtendSpans(pugi::xml_attribute spans, int column) {
+  auto [first, last] = ParseSpan(spans.value(), ":");
+  if (first < 1 || (first <= column && column <= last)) return;
+  spans = (std::to_string(std::min(first, column)) + ":" + std::to_string(std::max(last, column))).c_str();
+}
+
+void WorksheetXml::ExtendDimension(int row, int column) {
+  if (!dimensionRange_) return;
+  CellRef& first = dimensionRange_->first;
+  CellRef& last = dimensionRange_->last;
+  if (first.row <= row && row <= last.row && first.column <= column && column <= last.column) return;
+  first = {std::min(first.row, row), std::min(first.column, column)};
+  last = {std::max(last.row, row), std::max(last.column, column)};
+  std::string from = FormatCellRef(first.row, first.column);
+  std::string to = FormatCellRef(last.row, last.column);
+  dimension_ = (from == to ? from : from + ":" + to).c_str();
 }
 
 Bytes WorksheetXml::Write() const { return WritePart(document_); }

@@ -29,28 +29,49 @@ class WorksheetXml {
   std::optional<int> StyleForNewCell(int row, int column) const;
   void SetModelRow(int row) { modelRow_ = row; }
   // Whether the cell lies in an array formula's range or is the master of a
-  // shared formula: Excel changes neither alone.
-  bool InFormulaGroup(int row, int column) const;
+  // shared formula: Excel changes neither alone. `cell` is FindCell's answer.
+  bool InFormulaGroup(int row, int column, pugi::xml_node cell) const;
 
   Bytes Write() const;
 
  private:
+  // A row's cells by column, in column order: new cells mostly come last,
+  // where a vector grows cheaper than a tree.
+  using Cells = std::vector<std::pair<int, pugi::xml_node>>;
   struct Row {
     pugi::xml_node node;
-    std::map<int, pugi::xml_node> cells;
+    Cells cells;
   };
   struct Range {
     CellRef first;
     CellRef last;
   };
 
-  pugi::xml_node MakeRow(int row);
-  void ExtendRange(pugi::xml_attribute range, int row, int column, bool columnsOnly);
+  struct ColumnStyle {
+    int min = 0;
+    int max = 0;
+    int style = 0;
+  };
+
+  using RowMap = std::map<int, Row>;
+
+  // The row, null when it is missing. Remembers the last row found, as
+  // cells come row by row.
+  const Row* FindRow(int row) const;
+  RowMap::iterator MakeRow(int row);
+  void ExtendSpans(pugi::xml_attribute spans, int column);
+  void ExtendDimension(int row, int column);
 
   pugi::xml_document document_;
   pugi::xml_node sheetData_;
-  std::map<int, Row> rows_;
+  RowMap rows_;
+  mutable const RowMap::value_type* lastFound_ = nullptr;
   std::vector<Range> arrays_;
+  // <cols> with a style, read once: the engine never changes them.
+  std::vector<ColumnStyle> columnStyles_;
+  // The parsed ref of <dimension>, when it has a readable one.
+  pugi::xml_attribute dimension_;
+  std::optional<Range> dimensionRange_;
   int lastReadRow_ = 0;
   std::optional<int> modelRow_;
 };

@@ -1,6 +1,7 @@
 #include "XlsWorkbook.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "CellValues.h"
@@ -16,6 +17,7 @@ constexpr int kRowLimit = 65536;
 constexpr int kColumnLimit = 256;
 constexpr size_t kMaxCellText = 32767;
 constexpr uint16_t kDefaultCellFormat = 15;
+constexpr size_t kLargestCellRecord = 14;  // NUMBER: row, column, format, value
 constexpr uint8_t kBoundSheetWorksheet = 0;
 constexpr uint8_t kPtgExp = 0x01;
 constexpr size_t kFormulaExpressionOffset = 20;  // cce, then the parsed expression
@@ -229,6 +231,7 @@ void XlsWorkbook::SetCellText(std::wstring_view sheetName, int row, int column, 
   if (units.size() > kMaxCellText) throw Error("a cell text is longer than 32767 characters");
   uint16_t cellFormat = sheet.cells.CellFormat(r, c).value_or(FormatForNewCell(sheet, r, c));
   Record record;
+  record.data.reserve(kLargestCellRecord);
   PutU16(record.data, r);
   PutU16(record.data, c);
   PutU16(record.data, cellFormat);
@@ -287,7 +290,8 @@ std::vector<Record> XlsWorkbook::RebuiltSheet(const Sheet& sheet) const {
   bool tableWritten = false;
   auto writeTable = [&] {
     out.push_back(table.dimensions);
-    out.insert(out.end(), table.records.begin(), table.records.end());
+    out.insert(out.end(), std::make_move_iterator(table.records.begin()),
+               std::make_move_iterator(table.records.end()));
     tableWritten = true;
   };
   bool afterCellRecord = false;

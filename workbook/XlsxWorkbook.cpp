@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 
 #include "CellValues.h"
 #include "OoxmlXml.h"
@@ -40,7 +41,12 @@ std::string FolderOf(const std::string& part) {
 
 std::string NumberText(double value) {
   char buffer[32];
-  auto result = std::to_chars(buffer, buffer + sizeof buffer, value);
+  // Whole numbers below 2^53 (but zero, which may be -0) read the same
+  // either way; the integer conversion is the cheaper one.
+  constexpr double kExactIntegers = 9007199254740992.0;
+  auto result = value != 0 && std::trunc(value) == value && std::fabs(value) < kExactIntegers
+                    ? std::to_chars(buffer, buffer + sizeof buffer, static_cast<long long>(value))
+                    : std::to_chars(buffer, buffer + sizeof buffer, value);
   return std::string(buffer, result.ptr);
 }
 
@@ -98,6 +104,7 @@ XlsxWorkbook::XlsxWorkbook(const Bytes& image) : package_(ZipPackage::Read(image
 void XlsxWorkbook::ReadSharedStrings() {
   if (sharedStringsPart_.empty()) return;
   ParsePart(sharedStrings_, PartData(package_, sharedStringsPart_), sharedStringsPart_);
+  readStringReferences_ = sharedStrings_.document_element().attribute("count").as_llong();
   for (pugi::xml_node item : sharedStrings_.document_element().children()) {
     if (LocalName(item) != "si") continue;
     strings_.push_back(ItemText(item));
@@ -160,7 +167,7 @@ void XlsxWorkbook::SetCellText(std::wstring_view sheetName, int row, int column,
   Sheet& sheet = const_cast<Sheet&>(FindWorksheet(sheetName));
   CheckCellRange(row, column, kRowLimit, kColumnLimit);
   pugi::xml_node cell = sheet.cells->FindCell(row, column);
-  if (sheet.cells->InFormulaGroup(row, column)) {
+  if (sheet.cells->InFormulaGroup(row, column, cell)) {
     throw Error("cell (row " + std::to_string(row) + ", column " + std::to_string(column) + ") of sheet " +
                 Quoted(sheetName) + " belongs to an array or shared formula and cannot be overwritten");
   }
@@ -168,12 +175,14 @@ void XlsxWorkbook::SetCellText(std::wstring_view sheetName, int row, int column,
   std::optional<int> newStyle = cell ? std::nullopt : sheet.cells->StyleForNewCell(row, column);
   int style = cell ? cell.attribute("s").as_int() : newStyle.value_or(0);
   std::optional<double> number = IsTextFormat(style) ? std::nullopt : ParseTypedNumber(text);
-  if (!cell) cell = sheet.cells->MakeCell(row, column, newStyle);
-
-  if (std::string_view(cell.attribute("t").value()) == "s") --stringReferenceChange_;
-  cell.remove_attribute("t");
-  for (const char* child : {"f", "v", "is"}) {
-    while (pugi::xml_node old = Child(cell, child)) cell.remove_child(old);
+  if (cell) {
+    if (std::string_view(cell.attribute("t").value()) == "s") --stringReferenceChange_;
+    cell.remove_attribute("t");
+    for (const char* child : {"f", "v", "is"}) {
+      while (pugi::xml_node old = Child(cell, child)) cell.remove_child(old);
+    }
+  } else {
+    cell = sheet.cells->MakeCell(row, column, newStyle);
   }
   if (!text.empty()) {
     pugi::xml_node value = NewChild(cell, "v", cell.first_child());
@@ -247,15 +256,13 @@ Bytes XlsxWorkbook::Save() const {
   }
 
   if (sharedStringsChanged_ || stringReferenceChange_ != 0) {
-    pugi::xml_document strings;
-    strings.reset(sharedStrings_);
-    pugi::xml_node root = strings.document_element();
+    pugi::xml_node root = sharedStrings_.document_element();
     SetCount(root, "uniqueCount", static_cast<long long>(strings_.size()));
-    SetCount(root, "count", root.attribute("count").as_llong() + stringReferenceChange_);
+    SetCount(root, "count", readStringReferences_ + stringReferenceChange_);
     if (ZipPart* part = package.Find(sharedStringsPart_)) {
-      part->data = WritePart(strings);
+      part->data = WritePart(sharedStrings_);
     } else {
-      package.Add(sharedStringsPart_, WritePart(strings));
+      package.Add(sharedStringsPart_, WritePart(sharedStrings_));
       packageChanged = true;
       pugi::xml_node relationship = NewChild(relations.document_element(), "Relationship");
       relationship.append_attribute("Id") = NewRelationshipId(relations_).c_str();

@@ -52,7 +52,9 @@ class XlsxWorkbook : public Workbook {
   pugi::xml_document workbookRelations_;
   std::vector<ooxml::Relationship> relations_;
   std::vector<Sheet> sheets_;
-  pugi::xml_document sharedStrings_;
+  // Save brings its counts up to date, from the count read and the change.
+  mutable pugi::xml_document sharedStrings_;
+  long long readStringReferences_ = 0;
   std::string sharedStringsPart_;
   bool sharedStringsChanged_ = false;
   std::vector<std::wstring> strings_;

@@ -14,6 +14,9 @@ namespace workbook {
 namespace {
 
 constexpr int kMaxDepth = 32;
+// zlib's fastest level: at the default level deflating took a quarter of the
+// time to fill and save a 10,000-row sheet; the package is a quarter larger.
+constexpr int kDeflateLevel = 1;
 
 bool SameName(std::string_view a, std::string_view b) {
   return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) {
@@ -92,7 +95,8 @@ Bytes ZipPackage::Write() const {
         GsfOutfile* folder = folders.Folder(slash == std::string::npos ? "" : part.name.substr(0, slash));
         std::string name = slash == std::string::npos ? part.name : part.name.substr(slash + 1);
         GsfPtr<GsfOutput> output(gsf_outfile_new_child_full(folder, name.c_str(), FALSE, "compression-level",
-                                                            GSF_ZIP_DEFLATED, nullptr));
+                                                            GSF_ZIP_DEFLATED, "deflate-level", kDeflateLevel,
+                                                            nullptr));
         if (!output) throw Error("cannot write the zip entry " + part.name);
         WriteAll(output.get(), part.data);
         gsf_output_close(output.get());
