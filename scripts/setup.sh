@@ -7,6 +7,8 @@ packages=(
   libgtest-dev libgmock-dev
   nlohmann-json3-dev
   libbenchmark-dev
+  # wall time and peak memory of the end-to-end benchmark
+  time
   # the spreadsheet engine, and the independent readers its tests use
   libgsf-1-dev libpugixml-dev
   python3-xlrd python3-openpyxl libreoffice-calc-nogui fonts-wqy-zenhei
