@@ -5,14 +5,11 @@
 
 #include <filesystem>
 
-#include "CallLog.h"
 #include "GeneratedAssembly.h"
 #include "TkBOM.h"
 
 namespace {
 
-// The host's call log grows with every call; it is emptied outside the
-// timing, as a host session would not keep it.
 template <typename Run>
 void Measure(benchmark::State& state, Run run) {
   static const std::filesystem::path work = std::filesystem::temp_directory_path() / "bom-bench";
@@ -21,9 +18,6 @@ void Measure(benchmark::State& state, Run run) {
   size_t rows = 0;
   for (auto _ : state) {
     rows = run(top);
-    state.PauseTiming();
-    sim::ClearCallLog();
-    state.ResumeTiming();
   }
   state.counters["rows"] = static_cast<double>(rows);
 }
@@ -78,9 +72,6 @@ void SortByParameter(benchmark::State& state) {
   bom.GetAllLeveBomMdls({}, rows, 1);
   for (auto _ : state) {
     bom.SortLevelBomMdls(rows, L"图号", sorted);
-    state.PauseTiming();
-    sim::ClearCallLog();
-    state.ResumeTiming();
   }
   state.counters["rows"] = static_cast<double>(sorted.size());
 }

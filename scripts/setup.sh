@@ -9,6 +9,8 @@ packages=(
   libbenchmark-dev
   # benchmark-only: the peer the spreadsheet engine is measured against
   libxlsxwriter-dev
+  # wall time and peak memory of the end-to-end benchmark
+  time
   # the spreadsheet engine, and the independent readers its tests use
   libgsf-1-dev libpugixml-dev
   python3-xlrd python3-openpyxl libreoffice-calc-nogui fonts-wqy-zenhei

@@ -1,5 +1,7 @@
-// Every toolkit call in the order made, with its key arguments as UTF-8
-// texts (null texts log as ""; models log as their names, "?" when unknown).
+// Every toolkit call in the order made while logging is on, with its key
+// arguments as UTF-8 texts (null texts log as ""; models log as their names,
+// "?" when unknown). Logging is off at start and after StartHost, so that a
+// long session's memory does not grow with the calls it serves.
 #pragma once
 
 #include <string>
@@ -14,6 +16,7 @@ struct CallRecord {
   bool operator==(const CallRecord&) const = default;
 };
 
+void SetCallLogging(bool on);
 std::vector<CallRecord> CallLog();
 void ClearCallLog();
 

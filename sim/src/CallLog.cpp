@@ -9,6 +9,11 @@ std::vector<CallRecord> CallLog() {
   return TheHost().state.callLog;
 }
 
+void SetCallLogging(bool on) {
+  std::lock_guard hold(TheHost().mutex);
+  TheHost().state.logCalls = on;
+}
+
 void ClearCallLog() {
   std::lock_guard hold(TheHost().mutex);
   TheHost().state.callLog.clear();

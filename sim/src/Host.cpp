@@ -4,20 +4,14 @@
 
 namespace sim {
 
-Model* HostState::LiveModel(const void* handle) const {
-  auto found = std::find(models.begin(), models.end(), handle);
-  return found == models.end() ? nullptr : *found;
-}
+Model* HostState::LiveModel(const void* handle) const { return models.Find(handle); }
 
 Model* HostState::LiveSolid(const void* handle) const {
   Model* model = LiveModel(handle);
   return model && model->IsSolid() ? model : nullptr;
 }
 
-Command* HostState::LiveCommand(const void* id) const {
-  auto found = std::find(commands.begin(), commands.end(), id);
-  return found == commands.end() ? nullptr : *found;
-}
+Command* HostState::LiveCommand(const void* id) const { return commands.Find(id); }
 
 Command* HostState::FindCommand(std::string_view name) const {
   auto found = std::find_if(commands.begin(), commands.end(),

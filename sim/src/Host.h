@@ -6,6 +6,7 @@
 #include "CallLog.h"
 #include "DetailObjects.h"
 #include "FaultInjection.h"
+#include "IndexedList.h"
 #include "Inspection.h"
 #include "MenuBar.h"
 #include "Model.h"
@@ -48,13 +49,13 @@ struct HostState {
   std::filesystem::path currentDir;
   std::filesystem::path sessionDir;  // empty before a session is loaded
   std::vector<std::filesystem::path> searchPath;
-  std::vector<Model*> models;  // in session, in load order
+  IndexedList<Model> models;  // in session, in load order
   std::vector<Window> windows{Window{}};
   int currentWindow = 0;
   std::optional<int> pendingActivation;
   int nextWindowId = 1;
   std::vector<MenuItem> menuBar = HostMenuBar();
-  std::vector<Command*> commands;  // in registration order
+  IndexedList<Command> commands;  // in registration order
   MessageArea messages;
   std::vector<std::wstring> macros;
   std::filesystem::path trailFile;
@@ -65,6 +66,7 @@ struct HostState {
   std::map<std::string, ScriptedFailure> failures;
   std::vector<Model*> pendingErase;  // erased when control returns to the host
   std::vector<CallRecord> callLog;
+  bool logCalls = false;
   std::vector<Selected> selectionBuffer;
   DetailObjects details;  // table data and note data handed out
   std::vector<UnloadedModel> unloaded;

@@ -127,7 +127,7 @@ void ReturnToHost() {
   }
   state.pendingActivation.reset();
   for (Model* erased : state.pendingErase) {
-    std::erase(state.models, erased);
+    state.models.Erase(erased);
     for (Window& window : state.windows) {
       if (window.model != erased) continue;
       window.model = nullptr;

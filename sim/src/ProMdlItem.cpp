@@ -3,7 +3,7 @@
 
 #include "ToolkitCall.h"
 
-#include <algorithm>
+#include <optional>
 
 // The item's id is the model's number in the session, counted from 1 in load
 // order, as the host numbers the models it holds.
@@ -11,10 +11,10 @@ extern "C" ProError ProMdlToModelitem(ProMdl mdl, ProModelitem* p_model_item) {
   sim::ToolkitCall call("ProMdlToModelitem", {sim::ModelRef{mdl}});
   if (call.Failed()) return call.Status();
   const auto& models = call.state().models;
-  auto found = std::find(models.begin(), models.end(), mdl);
-  if (found == models.end() || !p_model_item) return PRO_TK_BAD_INPUTS;
-  p_model_item->type = static_cast<ProType>((*found)->def.type);
-  p_model_item->id = static_cast<int>(found - models.begin()) + 1;
+  std::optional<size_t> position = models.Position(mdl);
+  if (!position || !p_model_item) return PRO_TK_BAD_INPUTS;
+  p_model_item->type = static_cast<ProType>(models.Find(mdl)->def.type);
+  p_model_item->id = static_cast<int>(*position) + 1;
   p_model_item->owner = mdl;
   return PRO_TK_NO_ERROR;
 }

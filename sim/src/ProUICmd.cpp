@@ -23,7 +23,7 @@ extern "C" ProError ProCmdActionAdd(char* action_name, uiCmdCmdActFn action_cb, 
   command->action = action_cb;
   command->access = access_func;
   sim::Command* kept = call.host().Keep(std::move(command));
-  state.commands.push_back(kept);
+  state.commands.Add(kept);
   *action_id = kept;
   return PRO_TK_NO_ERROR;
 }

@@ -151,7 +151,7 @@ Loader::Opened Loader::Open(std::wstring_view path, ProMdlfileType fileType) {
 
 Model* Loader::Enter(std::unique_ptr<Model> model) {
   Model* entered = host_.Keep(std::move(model));
-  state_.models.push_back(entered);
+  state_.models.Add(entered);
   Index(entered);
   return entered;
 }
@@ -190,9 +190,9 @@ LoadResult Loader::EnterWithReferences(std::unique_ptr<Model> model) {
     if (!component && found) owner->solids.push_back(found);
     if (found && found != opened.known) pending.push_back({found});
   }
-  std::string cycle = CycleAmong(std::span(state_.models).subspan(first));
+  std::string cycle = CycleAmong(state_.models.From(first));
   if (cycle.empty()) return {PRO_TK_NO_ERROR, top, {}};
-  state_.models.resize(first);
+  state_.models.Truncate(first);
   exact_.clear();
   folded_.clear();
   for (Model* kept : state_.models) Index(kept);

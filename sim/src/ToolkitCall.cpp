@@ -28,10 +28,12 @@ ToolkitCall::ToolkitCall(const char* name, std::initializer_list<LogArg> args)
   WaitWhileHeld(name);
   lock_.lock();
   HostState& s = host_.state;
-  CallRecord record{name, {}};
-  record.args.reserve(args.size());
-  for (const LogArg& arg : args) record.args.push_back(arg.Text(s));
-  s.callLog.push_back(std::move(record));
+  if (s.logCalls) {
+    CallRecord record{name, {}};
+    record.args.reserve(args.size());
+    for (const LogArg& arg : args) record.args.push_back(arg.Text(s));
+    s.callLog.push_back(std::move(record));
+  }
 
   auto failure = s.failures.find(name);
   if (failure == s.failures.end()) return;

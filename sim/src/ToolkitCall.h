@@ -1,5 +1,6 @@
 // The entry of every toolkit function: holds the host for the call, appends
-// the call to the log and tells whether a scripted failure answers it.
+// the call to the log while logging is on and tells whether a scripted
+// failure answers it.
 #pragma once
 
 #include "Host.h"

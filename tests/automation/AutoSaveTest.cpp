@@ -21,6 +21,7 @@ void Idle(void*, unsigned, std::uintptr_t, unsigned long) {}
 class AutoSaveTest : public testing::Test {
  protected:
   void SetUp() override {
+    sim::SetCallLogging(true);
     // The system numbers window-less timers one after the other: the next
     // timer started gets the id after this probe's.
     std::uintptr_t probe = platform::SetTimer(nullptr, 0, 1000, Idle);

@@ -179,6 +179,7 @@ TEST_F(BomDrawingTest, ColumnTableChangedWhileTheListIsOpenIsToldAndNothingDrawn
 
 TEST_F(BomDrawingTest, WithoutADrawingCurrentNothingIsAskedOrDrawn) {
   ASSERT_TRUE(sim::SetCurrentModel(sim::OpenModel(L"reducer.asm")));
+  sim::SetCallLogging(true);
   EXPECT_EQ(dialog->ExportToDrawing(list->GetItemCount()), 1);
   auto log = sim::CallLog();
   EXPECT_TRUE(

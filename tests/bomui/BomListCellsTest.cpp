@@ -57,6 +57,7 @@ TEST_F(BomListCellsFill, AsksEachModelsMassAndBoxOnceWithTheUncachedTexts) {
   const std::vector<ColInfo> cols{Col(PARAMTYPE_UNITMASS), Col(PARAMTYPE_TOTALMASS), Col(PARAMTYPE_OUTSIZE)};
   // The bolt has a row under the top and one under the sub-assembly.
   ASSERT_EQ(rows_.size(), 5u);
+  sim::SetCallLogging(true);
   sim::ClearCallLog();
   CBomListCells cells(L".", 3);
   std::vector<std::wstring> texts;

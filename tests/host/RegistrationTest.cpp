@@ -83,6 +83,7 @@ class RegistrationTest : public testing::Test {
 }  // namespace
 
 TEST_F(RegistrationTest, GroupsRegisterInOrderWithDesignationBeforeIconOnlyInTheParameterGroup) {
+  sim::SetCallLogging(true);
   ASSERT_EQ(Initialize(), 0);
   EXPECT_EQ(RegistrationCalls(),
             "MenuAdd:BOMMenubarId\n"

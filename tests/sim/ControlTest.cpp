@@ -45,6 +45,7 @@ TEST_F(SimControl, FailureAlwaysLastsUntilCleared) {
 
 TEST_F(SimControl, CallLogKeepsCallsInOrderWithTheirKeyArguments) {
   ProMdl part = sim::AddModel(L"bolt.prt", {});
+  sim::SetCallLogging(true);
   sim::ClearCallLog();
   TypeOf(part);
   TypeOf(nullptr, PRO_TK_BAD_INPUTS);
@@ -61,6 +62,23 @@ TEST_F(SimControl, CallLogKeepsCallsInOrderWithTheirKeyArguments) {
                                 {"ProMenubarMenuAdd", {"Bom", "BomLabel", "Utilities", "1", "菜单.txt"}},
                             }));
   sim::ClearCallLog();
+  EXPECT_TRUE(sim::CallLog().empty());
+}
+
+TEST_F(SimControl, CallLogRecordsOnlyWhileLoggingIsOnAndStartHostTurnsItOff) {
+  ProMdl part = sim::AddModel(L"bolt.prt", {});
+  TypeOf(part);
+  EXPECT_TRUE(sim::CallLog().empty()) << "off after StartHost";
+  sim::SetCallLogging(true);
+  TypeOf(part);
+  sim::SetCallLogging(false);
+  TypeOf(part);
+  EXPECT_EQ(sim::CallLog(), (std::vector<sim::CallRecord>{{"ProMdlTypeGet", {"BOLT"}}}));
+
+  sim::SetCallLogging(true);
+  sim::StartHost({dir.path() / "work"});
+  sim::ClearCallLog();
+  TypeOf(sim::AddModel(L"nut.prt", {}));
   EXPECT_TRUE(sim::CallLog().empty());
 }
 

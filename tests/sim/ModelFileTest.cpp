@@ -13,6 +13,7 @@
 #include <nlohmann/json.hpp>
 
 #include <filesystem>
+#include <vector>
 
 namespace fs = std::filesystem;
 
@@ -167,6 +168,43 @@ TEST_F(SimModelFile, EraseTakesEffectWhenControlReturnsAndSparesModelsInUse) {
   EXPECT_EQ(ProMdlErase(part), PRO_TK_NO_ERROR);
   sim::ReturnToHost();
   EXPECT_TRUE(sim::SessionModels().empty());
+}
+
+// A handle is known while its model is in session, and the model's item id
+// is its place in load order, through erases and refused loads alike.
+TEST_F(SimModelFile, HandlesAndItemIdsFollowTheModelsInSession) {
+  auto idOf = [](ProMdl mdl) {
+    ProModelitem item{};
+    return ProMdlToModelitem(mdl, &item) == PRO_TK_NO_ERROR ? item.id : 0;
+  };
+  auto known = [](ProMdl mdl) {
+    ProMdlType type = PRO_MDL_UNUSED;
+    return ProMdlTypeGet(mdl, &type) == PRO_TK_NO_ERROR;
+  };
+  ProMdl a = sim::AddModel(L"a.prt", {});
+  ProMdl b = sim::AddModel(L"b.prt", {});
+  ProMdl c = sim::AddModel(L"c.prt", {});
+  EXPECT_EQ(std::vector<int>({idOf(a), idOf(b), idOf(c)}), std::vector<int>({1, 2, 3}));
+
+  ASSERT_EQ(ProMdlErase(b), PRO_TK_NO_ERROR);
+  sim::ReturnToHost();
+  EXPECT_FALSE(known(b));
+  EXPECT_EQ(idOf(b), 0);
+  EXPECT_EQ(std::vector<int>({idOf(a), idOf(c)}), std::vector<int>({1, 2}));
+
+  dir.Write("work/loop.asm.1", ModelJson("assembly", R"("components": [{"id": 1, "model": "d.prt"},
+      {"id": 2, "model": "inner.asm"}])"));
+  dir.Write("work/inner.asm.1", ModelJson("assembly", R"("components": [{"id": 1, "model": "loop.asm"}])"));
+  dir.Write("work/d.prt.1", ModelJson("part"));
+  EXPECT_EQ(sim::OpenModel(L"loop.asm"), nullptr);
+  ProMdl d = sim::OpenModel(L"d.prt");
+  ASSERT_NE(d, nullptr);
+  EXPECT_EQ(idOf(d), 3) << "the refused load left nothing behind";
+  EXPECT_EQ(sim::SessionModels().size(), 3u);
+
+  sim::StartHost({dir.path() / "work"});
+  EXPECT_FALSE(known(a));
+  EXPECT_FALSE(known(d));
 }
 
 TEST_F(SimModelFile, SessionListGivesOneTypeInLoadOrder) {

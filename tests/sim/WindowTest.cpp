@@ -72,6 +72,7 @@ TEST_F(SimWindows, DisplayMarksTheModelsWindowOrFillsTheCurrentOne) {
 }
 
 TEST_F(SimWindows, RefreshRepaintAndClearTakeTheCurrentWindowForUnused) {
+  sim::SetCallLogging(true);
   sim::ClearCallLog();
   EXPECT_EQ(ProWindowRefresh(PRO_VALUE_UNUSED), PRO_TK_NO_ERROR);
   EXPECT_EQ(ProWindowRepaint(0), PRO_TK_NO_ERROR);

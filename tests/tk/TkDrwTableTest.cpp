@@ -17,6 +17,7 @@ namespace {
 
 class TkDrwTableTest : public testing::Test {
  protected:
+  void SetUp() override { sim::SetCallLogging(true); }
   // A drawing of the given sheets loaded from a file of the test.
   ProMdl LoadDrawing(const std::string& sheets = "[]") {
     dir_.Write("work/plan.drw.1", R"({"type": "drawing", "sheets": )" + sheets + "}");

@@ -60,6 +60,7 @@ namespace {
 
 class TkFileHostTest : public testing::Test {
  protected:
+  void SetUp() override { sim::SetCallLogging(true); }
   std::wstring Work(const std::string& relative = "") const { return dir_.Wide("work/" + relative); }
 
   TestDir dir_;

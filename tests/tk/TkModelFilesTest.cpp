@@ -23,6 +23,7 @@ std::string Assembly(const std::string& components) {
 
 class TkModelFilesTest : public testing::Test {
  protected:
+  void SetUp() override { sim::SetCallLogging(true); }
   ProMdl Open(const std::wstring& fileName) {
     ProMdl mdl = nullptr;
     EXPECT_EQ(model_.LoadMdl(dir_.Wide("work/") + fileName, -1, mdl), PRO_TK_NO_ERROR);

@@ -121,6 +121,7 @@ TEST_F(TkModelTest, OpeningAWindowIgnoresAFailedDisplay) {
 
 TEST_F(TkModelTest, RepaintRefreshesAWindowWithAModelAndClearsAnEmptyOne) {
   host_.MakeCurrent(host_.AddPart(L"SHAFT"));
+  sim::SetCallLogging(true);
   sim::ClearCallLog();
   EXPECT_EQ(model_.RepaintCurWindow(), 0);
   host_.MakeCurrent(nullptr);
