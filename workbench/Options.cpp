@@ -2,7 +2,6 @@
 
 #include "CodePage.h"
 
-
 namespace {
 
 bool IsFlag(const std::string& value) { return value == "0" || value == "1"; }
