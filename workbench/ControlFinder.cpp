@@ -11,6 +11,7 @@
 #include <QListView>
 #include <QPlainTextEdit>
 #include <QPointer>
+#include <QProgressBar>
 #include <QRadioButton>
 #include <QTableView>
 #include <QTextEdit>
@@ -277,6 +278,10 @@ std::vector<QWidget*> PluginWindows(const QWidget* exclude) {
     return a->property(kShownOrder).toLongLong() > b->property(kShownOrder).toLongLong();
   });
   return windows;
+}
+
+bool ShowsProgressOnly(const QWidget* window) {
+  return window && window->findChild<QProgressBar*>() && !window->findChild<QAbstractButton*>();
 }
 
 void TrackShownWindows() {

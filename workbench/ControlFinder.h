@@ -29,6 +29,9 @@ FoundControl FindControl(QWidget* window, const std::wstring& name, const std::v
 // window) is never one of them.
 std::vector<QWidget*> PluginWindows(const QWidget* exclude = nullptr);
 
+// A window that only shows progress: it is at work and closes by itself.
+bool ShowsProgressOnly(const QWidget* window);
+
 // From now on the application notes the order in which windows show.
 void TrackShownWindows();
 

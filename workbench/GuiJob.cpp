@@ -3,13 +3,13 @@
 #include <QApplication>
 #include <QDialog>
 #include <QPainter>
-#include <QProgressBar>
 #include <QTimer>
 
 #include <iostream>
 #include <memory>
 #include <optional>
 
+#include "ControlFinder.h"
 #include "FileDialog.h"
 #include "HostChoosers.h"
 #include "MainWindow.h"
@@ -46,12 +46,9 @@ QImage GrabWindows(QWidget* main) {
   return image;
 }
 
-// A modal dialog with a progress bar is at work and closes itself; any other
-// waits for the user.
-bool WaitsForTheUser(QWidget* modal) {
-  auto* dialog = qobject_cast<QDialog*>(modal);
-  return dialog && !dialog->findChild<QProgressBar*>();
-}
+// A modal dialog that only shows progress is at work and closes itself; any
+// other waits for the user.
+bool WaitsForTheUser(QWidget* modal) { return qobject_cast<QDialog*>(modal) && !ShowsProgressOnly(modal); }
 
 bool SaveScreenshot(QWidget* main, const std::string& file) {
   if (GrabWindows(main).save(QString::fromStdString(file), "PNG")) return true;

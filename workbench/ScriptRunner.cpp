@@ -6,19 +6,15 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QElapsedTimer>
-#include <QMenu>
-#include <QProgressBar>
 #include <QTimer>
 
 #include <exception>
-#include <functional>
 #include <map>
 #include <optional>
 
 #include "CodePage.h"
 #include "ControlFinder.h"
 #include "HostControl.h"
-#include "ItemViews.h"
 #include "ListSteps.h"
 #include "PlayAnswers.h"
 #include "TextEntry.h"
@@ -35,11 +31,6 @@ Outcome Retry(std::wstring reason) { return {Outcome::Retry, std::move(reason)};
 Outcome Fail(std::wstring reason) { return {Outcome::Fail, std::move(reason)}; }
 
 std::string Narrow(const std::wstring& text) { return platform::ToNarrow(text); }
-
-// A window that only shows progress.
-bool IsBusy(const QWidget* window) {
-  return window && window->findChild<QProgressBar*>() && !window->findChild<QAbstractButton*>();
-}
 
 // Tells the answers of every modal dialog that shows.
 class ModalWatch : public QObject {
@@ -87,7 +78,7 @@ class Player {
     if (std::optional<std::wstring> failure = answers_.TakeFailure()) return Finish(*failure);
     // A step's own menu, or a window that only shows progress, is not where
     // the next step acts: it waits until they are gone.
-    if (QApplication::activePopupWidget() || IsBusy(QApplication::activeModalWidget()))
+    if (QApplication::activePopupWidget() || ShowsProgressOnly(QApplication::activeModalWidget()))
       return tick_.start(kPollMs);
     if (next_ >= steps_.size()) return Finish(std::nullopt);
     size_t index = next_;

@@ -17,21 +17,18 @@
 #include "MainWindow.h"
 #include "ProGraphic.h"
 #include "ProMessage.h"
-#include "PluginHost.h"
-#include "ProToolkitDll.h"
 #include "ProUtil.h"
-#include "Registration.h"
+#include "SampleSessionTest.h"
 #include "Timers.h"
 
 namespace {
 
 // The plug-in registered in a host holding the sample session.
-class MainWindowTest : public testing::Test {
+class MainWindowTest : public SampleSessionTest {
  protected:
   void SetUp() override {
-    AutoSaveStarted = 1;  // the plug-in's own timers are not under test here
-    user_initialize(0, nullptr, nullptr, nullptr, nullptr);
-    ASSERT_EQ(sim::LoadSession(std::filesystem::path(BOM_SAMPLES_DIR) / "reducer"), PRO_TK_NO_ERROR);
+    SampleSessionTest::SetUp();
+    if (HasFatalFailure()) return;
     window = std::make_unique<MainWindow>();
     window->show();
   }
@@ -56,8 +53,6 @@ class MainWindowTest : public testing::Test {
     poll->start(5);
   }
 
-  TestDir dir_;
-  PluginHost host_{dir_};
   std::unique_ptr<MainWindow> window;
 };
 

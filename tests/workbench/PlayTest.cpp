@@ -15,9 +15,7 @@
 #include <sstream>
 
 #include "HostControl.h"
-#include "PluginHost.h"
-#include "ProToolkitDll.h"
-#include "Registration.h"
+#include "SampleSessionTest.h"
 #include "Script.h"
 #include "ScriptRunner.h"
 
@@ -30,13 +28,8 @@ struct Played {
   bool Printed(const std::string& text) const { return out.find(text) != std::string::npos; }
 };
 
-class PlayTest : public testing::Test {
+class PlayTest : public SampleSessionTest {
  protected:
-  void SetUp() override {
-    AutoSaveStarted = 1;  // the plug-in's own timers are not under test here
-    user_initialize(0, nullptr, nullptr, nullptr, nullptr);
-    ASSERT_EQ(sim::LoadSession(std::filesystem::path(BOM_SAMPLES_DIR) / "reducer"), PRO_TK_NO_ERROR);
-  }
   void TearDown() override {
     for (QWidget* widget : QApplication::topLevelWidgets()) widget->close();
   }
@@ -55,9 +48,6 @@ class PlayTest : public testing::Test {
     return played;
   }
   std::string Out() const { return (dir_.path() / "out").string() + "/"; }
-
-  TestDir dir_;
-  PluginHost host_{dir_};
 };
 
 TEST(ScriptTest, FieldsQuotesAndComments) {
