@@ -39,8 +39,9 @@ class CParamSource : public CTkParam {
   // window's.
   int OpenReferenceMdl(const std::wstring& path) const;
 
-  // Writes the records of kind "参数" and any other into `mdl`. -2 for an
-  // empty list, else 0: a parameter that cannot be written is passed over.
+  // Writes every record into `mdl` as a parameter, whatever its kind: the
+  // callers pass only parameters. -2 for an empty list, else 0: a parameter
+  // that cannot be written is passed over.
   int ApplyParams(ProMdl mdl, const std::vector<ParamData>& params, int createOnly, int overwrite) const;
   // The current model and what lies below it (of a drawing: its first
   // solid's); the failing status when there is no current model.
