@@ -73,7 +73,7 @@ constexpr CommandDef kParamCommands[] = {
      {},
      AnyModel,
      true,
-     NotYetAvailable},
+     ShowParamMerge},
     {"CmdMaterialSetId",
      "MaterialSetMenuBtnId",
      "MaterialSetMenuBtn",
