@@ -50,6 +50,18 @@ bool IsUsedByOthers(const sim::HostState& state, const sim::Model* model) {
   });
 }
 
+// Without a type the name may be a file name, version and all, whose
+// extension gives the type; a bare name finds a model of any type.
+sim::Model* FindUntyped(const sim::HostState& state, std::wstring_view name) {
+  sim::ModelFileName parsed = sim::ParseModelFileName(name);
+  ProMdlType type = sim::TypeOfExtension(parsed.extension);
+  if (type != PRO_MDL_UNUSED) return sim::FindInSession(state, type, parsed.stem);
+  for (ProMdlType any : {PRO_MDL_ASSEMBLY, PRO_MDL_PART, PRO_MDL_DRAWING}) {
+    if (sim::Model* model = sim::FindInSession(state, any, name)) return model;
+  }
+  return nullptr;
+}
+
 }  // namespace
 
 // The session name changes at once; the files keep the old name until the
@@ -93,7 +105,8 @@ extern "C" ProError ProMdlInit(ProName name, ProMdlType type, ProMdl* p_mdl_hand
   sim::ToolkitCall call("ProMdlInit", {name, static_cast<int>(type)});
   if (call.Failed()) return call.Status();
   if (!name || !*name || !p_mdl_handle) return PRO_TK_BAD_INPUTS;
-  sim::Model* model = sim::FindInSession(call.state(), type, name);
+  sim::Model* model =
+      type == PRO_MDL_UNUSED ? FindUntyped(call.state(), name) : sim::FindInSession(call.state(), type, name);
   if (!model) return PRO_TK_E_NOT_FOUND;
   *p_mdl_handle = sim::Handle(model);
   return PRO_TK_NO_ERROR;

@@ -152,6 +152,41 @@ TEST_F(SimModelFile, InitFindsSessionModelsByNameAndType) {
   EXPECT_EQ(ProMdlInit(name, PRO_MDL_ASSEMBLY, &found), PRO_TK_E_NOT_FOUND);
 }
 
+// The batch tools look a reference model up by the file name of its path.
+TEST_F(SimModelFile, InitWithoutATypeTakesAFileNameOrFindsAnyType) {
+  ProMdl part = sim::AddModel(L"ref.prt", {});
+  sim::ModelDef drawing;
+  drawing.type = PRO_MDL_DRAWING;
+  ProMdl sheet = sim::AddModel(L"sheet.drw", drawing);
+  ProMdl found = nullptr;
+  ProName versioned{L"REF.prt.3"};
+  EXPECT_EQ(ProMdlInit(versioned, PRO_MDL_UNUSED, &found), PRO_TK_NO_ERROR);
+  EXPECT_EQ(found, part);
+  ProName bare{L"sheet"};
+  EXPECT_EQ(ProMdlInit(bare, PRO_MDL_UNUSED, &found), PRO_TK_NO_ERROR);
+  EXPECT_EQ(found, sheet);
+  ProName otherType{L"ref.asm"};
+  EXPECT_EQ(ProMdlInit(otherType, PRO_MDL_UNUSED, &found), PRO_TK_E_NOT_FOUND);
+}
+
+// As a tool reads a reference model: loaded by its full versioned path with
+// the plug-in's separators, erased again, gone when control returns.
+TEST_F(SimModelFile, ModelLoadedByAFullVersionedPathIsErasedWhenControlReturns) {
+  dir.Write("work/lib/ref.prt.2", ModelJson("part"));
+  dir.Write("work/lib/ref.prt.3", ModelJson("part", R"("commonName": "三")"));
+  dir.Write("work/lib/ref.prt.4", ModelJson("part"));
+  ProPath path{};
+  std::wstring windowsPath = dir.Wide("work") + L"\\lib\\ref.prt.3";
+  windowsPath.copy(path, windowsPath.size());
+  ProMdl ref = nullptr;
+  ASSERT_EQ(ProMdlFiletypeLoad(path, PRO_MDLFILE_UNUSED, PRO_B_FALSE, &ref), PRO_TK_NO_ERROR);
+  EXPECT_EQ(Origin(ref), dir.Wide("work/lib/ref.prt.3"));
+  EXPECT_EQ(Version(ref), 3);
+  ASSERT_EQ(ProMdlErase(ref), PRO_TK_NO_ERROR);
+  sim::ReturnToHost();
+  EXPECT_TRUE(sim::SessionModels().empty());
+}
+
 TEST_F(SimModelFile, EraseTakesEffectWhenControlReturnsAndSparesModelsInUse) {
   dir.Write("work/p.prt.1", ModelJson("part"));
   dir.Write("work/top.asm.1", ModelJson("assembly", R"("components": [{"id": 1, "model": "p.prt"}])"));
@@ -239,7 +274,8 @@ TEST_F(SimModelFile, UnitSystemsComeFromTheFileOrTheHostsStandardSet) {
   ProArraySizeGet(systems, &count);
   ASSERT_EQ(count, 2);
   EXPECT_STREQ(systems[1].name, L"mmNs");
-  ASSERT_EQ(ProMdlPrincipalunitsystemSet(inch, &systems[1], PRO_UNITCONVERT_SAME_SIZE, PRO_B_TRUE, -1),
+  // As the parameter check sets it.
+  ASSERT_EQ(ProMdlPrincipalunitsystemSet(inch, &systems[1], PRO_UNITCONVERT_SAME_SIZE, PRO_B_FALSE, -1),
             PRO_TK_NO_ERROR);
   ProArrayFree(reinterpret_cast<ProArray*>(&systems));
   EXPECT_TRUE(Modified(inch));
