@@ -24,7 +24,6 @@ int CParamSource::GetParamText(ProMdl mdl, const std::wstring& name, std::wstrin
 }
 
 void CParamSource::GetMdlNameAndKind(ProMdl mdl, std::wstring& name, int& type) const {
-  name.clear();
   name = model_.GetMdlName(mdl);
   model_.GetMdlType(mdl, type);
 }
@@ -133,16 +132,15 @@ int CParamSource::ApplyParams(ProMdl mdl, const std::vector<ParamData>& params, 
   if (params.empty()) return -2;
   for (const ParamData& param : params) {
     int present = GetMdlParamType(mdl, param.name);
-    if (!createOnly) {
+    if (createOnly) {
+      if (present != kNoSuchParam) continue;
+      // An empty text reads as an empty string and a zero number alike.
+      CreateMdlParam(mdl, param.name, param.valueType.code, L"");
+    } else {
       if (!overwrite && !GetMdlParamValue(mdl, param.name, 2).empty()) continue;
       if (SetMdlParamValue(mdl, param.name, param.valueType.code, param.value) != 0) {
         CreateMdlParam(mdl, param.name, param.valueType.code, param.value);
       }
-    } else if (present == kNoSuchParam) {
-      // An empty text reads as an empty string and a zero number alike.
-      CreateMdlParam(mdl, param.name, param.valueType.code, L"");
-    } else {
-      continue;
     }
     SetMdlParamDescription(mdl, param.name, param.description);
     SetMdlParamDesignated(mdl, param.name, param.designated.flag);

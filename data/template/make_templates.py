@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
 """Makes the workbook templates of this folder (BOM.xls, Params.xls,
-mattbl.xls, mdlname.xls) and Params.csv. Run it after changing a layout here;
+mattbl.xls, mdlname.xls) and Params.csv. Run it after changing a layout here,
+naming the templates to make (Params, BOM, ...) or none for all of them;
 it needs LibreOffice (soffice) on the path. The cells the program writes are
 the contract of data/config/Excel.cfg and of the tools; see data/README.md."""
 
@@ -56,10 +57,12 @@ PARAM_ROWS = [  # 属性名称, 属性类型, 参数类型, 属性值, 指定, �
     ("图号", "参数", "字符串", "", "是", "零件或部件的图号"),
     ("名称", "参数", "字符串", "", "是", "零件或部件的名称"),
     ("材料", "参数", "字符串", "Q235", "是", "材料牌号"),
-    ("备注", "参数", "字符串", "", "否", "外购、标准件、自制或外协"),
     ("设计", "参数", "字符串", "", "否", "设计者"),
+    ("审核", "参数", "字符串", "", "否", "审核者"),
     ("重量", "参数", "实数", "0", "否", "单件重量，千克"),
-    ("单位制", "系统单位", "字符串", "mmKs", "否", "毫米千克秒"),
+    # The value is the host's name of the unit system, which the check
+    # compares exactly.
+    ("单位制", "系统单位", "字符串", "millimeter Newton Second (mmNs)", "否", "毫米牛顿秒"),
 ]
 PARAM_TITLES = ["属性名称", "属性类型", "参数类型", "属性值", "指定", "说明"]
 
@@ -80,18 +83,25 @@ TEMPLATES = {
 }
 
 
-def main():
+def main(names):
+    """Makes the named templates, all of them when none is named."""
     with tempfile.TemporaryDirectory() as work:
         for name, sheets in TEMPLATES.items():
+            if names and name not in names:
+                continue
             source = os.path.join(work, name + ".fods")
             with open(source, "w", encoding="utf-8") as out:
                 out.write(fods(sheets))
             convert(source, HERE, ["xls"])
-    with open(os.path.join(HERE, "Params.csv"), "w", encoding="utf-8", newline="\n") as out:
+    if names and "Params" not in names:
+        return
+    # With a byte order mark, so that spreadsheet programs on Windows read it
+    # as UTF-8 too.
+    with open(os.path.join(HERE, "Params.csv"), "w", encoding="utf-8-sig", newline="\n") as out:
         out.write(",".join(PARAM_TITLES) + "\n")
         for values in PARAM_ROWS:
             out.write(",".join(values) + "\n")
 
 
 if __name__ == "__main__":
-    main()
+    main(sys.argv[1:])

@@ -195,10 +195,12 @@ def numbered(features):
 
 
 def part(drawing_no, name, remark, solids, grade, assigned=True, purchased=False,
-         common_name=None, features=()):
+         common_name=None, features=(), checker="李强", units=None):
     """A part file's contents. A manufactured part has its material assigned,
-    and its mass comes from the host's mass properties; a standard part only
-    names its grade, so the host takes density times volume."""
+    its mass comes from the host's mass properties, and it names its designer
+    and its checker (none when not yet checked); a standard part only names
+    its grade, so the host takes density times volume. `units` is a principal
+    unit system other than the host's standard one."""
     density = DENSITY[grade]
     properties, mass = mass_data(solids, density, with_mass=assigned)
     parameters = [
@@ -213,6 +215,9 @@ def part(drawing_no, name, remark, solids, grade, assigned=True, purchased=False
     ]
     model = {"type": "part", "commonName": common_name or name, "parameters": parameters}
     if assigned:
+        parameters.append(text("设计", "张伟", description="设计者"))
+        if checker:
+            parameters.append(text("审核", checker, description="审核者"))
         parameters.append(text("PTC_MATERIAL_NAME", grade.upper()))
         model["material"] = grade.upper()
         model["materials"] = [grade.upper()]
@@ -220,6 +225,8 @@ def part(drawing_no, name, remark, solids, grade, assigned=True, purchased=False
     model["massProperties"] = properties
     model["surfaces"] = surfaces(solids)
     model["features"] = numbered(PART_DATUMS + list(features))
+    if units:
+        model["principalUnitSystem"] = units
     return model
 
 
@@ -338,7 +345,7 @@ def housing(grade, remark):
 def cover():
     shell = box_shell((-250, -95, 0), (250, 95, 140), 8, "bottom", 20, FLANGE)
     features = [{"type": "PROTRUSION", "name": "箱盖主体"}, {"type": "HOLE", "name": "螺栓孔"}]
-    return part("JSQ-00-002", "箱盖", "人工时效", shell, "HT200", features=features)
+    return part("JSQ-00-002", "箱盖", "人工时效", shell, "HT200", features=features, checker=None)
 
 
 def shaft(drawing_no, name, remark, steps, grade, keyways, common_name=None):
@@ -468,7 +475,7 @@ def models():
         "gear_2.prt.2": gear("JSQ-03-002", "大齿轮", "m=3 z=84 调质", 258, 228, 80, 48, 55, 15),
         "oil_ring.prt.1": part("JSQ-01-002", "挡油环", "", [ring(56, 36, -4, 4)], "Q235"),
         "end_cap.prt.1": part("JSQ-02-101", "闷盖", "", [ring(110, 0, -10, 0), ring(62, 0, 0, 8)],
-                              "HT150"),
+                              "HT150", units="millimeter Kilogram Sec (mmKs)"),
         "reducer.drw.1": drawing("JSQ-00-000", "二级圆柱齿轮减速器装配图", ["reducer.asm"], ["A2"]),
         "output_shaft.drw.1": drawing("JSQ-03-001", "输出轴", ["output_shaft.prt"]),
         "output_shaft.drw.2": drawing("JSQ-03-001", "输出轴零件图", ["output_shaft.prt"]),

@@ -152,6 +152,17 @@ TEST_F(ParamSourceTest, WorkbookGivesAtMostOneHundredAttributes) {
   EXPECT_EQ(params.back().valueType.code, 52);
 }
 
+TEST_F(ParamSourceTest, DeliveredTemplatesHoldTheSameAttributes) {
+  std::vector<ParamData> fromCsv;
+  std::vector<ParamData> fromWorkbook;
+  source_.ReadCsvParams(fromCsv);
+  source_.ReadExcelParams(fromWorkbook);
+  ASSERT_EQ(fromCsv.size(), 7u);
+  EXPECT_EQ(Lines(fromCsv), Lines(fromWorkbook));
+  EXPECT_EQ(Lines(fromCsv).back(),
+            L"单位制|系统单位:2|字符串:51|millimeter Newton Second (mmNs)|否:0|毫米牛顿秒");
+}
+
 // A Params.csv as users save it on Chinese Windows, and as delivered.
 TEST_F(ParamSourceTest, GbkAndUtf8WithByteOrderMarkReadToTheSameRows) {
   std::vector<std::vector<std::wstring>> read;
