@@ -6,10 +6,12 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QElapsedTimer>
+#include <QGuiApplication>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
 #include <QStyle>
 #include <QStyleOptionViewItem>
 #include <QTest>
@@ -250,6 +252,9 @@ TEST_F(DlgParamsSetTest, AModelSourceWithoutPathOpensEmptyAndCannotSet) {
   EXPECT_EQ(dialog->minimumSize(), dialog->size());
   EXPECT_EQ(dialog->maximumHeight(), dialog->height());
   EXPECT_GT(dialog->maximumWidth(), dialog->width());
+  QRect screen = QGuiApplication::primaryScreen()->geometry();
+  EXPECT_EQ(dialog->frameGeometry().right(), screen.right());
+  EXPECT_EQ(dialog->frameGeometry().top(), screen.top());
 
   Click("RadioCurMdl");
   EXPECT_EQ(Option(L"RadioMdl"), L"0");
@@ -333,6 +338,21 @@ TEST_F(DlgParamsSetTest, SettingWritesTheCorrectedCellsCreatesWhatIsMissingAndSe
   // The list is read again: the counts held, so the unchecked row stays so.
   EXPECT_EQ(mdls->GetItemText(kRowCover, kColStatus), L"参数存在");
   EXPECT_EQ(mdls->GetItemText(kRowReducer, kColStatus), L"");
+}
+
+// The hidden "创建参数" adds what is missing, empty, and leaves the rest.
+TEST_F(DlgParamsSetTest, CreatingAddsOnlyMissingParametersWithoutValues) {
+  OpenOnCsv();
+  EditCell(kRowShaft, kColTitle, "主轴");
+  mdls->SetItemText(kRowCover, kColUnits, kMmKs);
+  Click("CreateButton");
+  EXPECT_EQ(prompts, (std::vector<std::wstring>{L"提示:设置参数完成!"}));
+  EXPECT_EQ(param.GetMdlParamValue(Model(L"shaft.prt"), L"名称", 2), L"轴");
+  EXPECT_EQ(param.GetMdlParamType(Model(L"cover.prt"), L"图号"), CTkParam::kText);
+  EXPECT_EQ(param.GetMdlParamValue(Model(L"cover.prt"), L"图号", 2), L"");
+  EXPECT_EQ(param.GetMdlParamValue(Model(L"cover.prt"), L"重量", 2), L"0.00");
+  EXPECT_EQ(Principal(L"cover.prt"), kIps);
+  EXPECT_EQ(mdls->GetItemText(kRowCover, kColStatus), L"参数存在");
 }
 
 TEST_F(DlgParamsSetTest, UsingTheReferenceShowsAndWritesItOverExistingValues) {
