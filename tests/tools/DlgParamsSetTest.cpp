@@ -34,6 +34,7 @@
 #include "Shell.h"
 #include "TkModel.h"
 #include "TkParam.h"
+#include "WidgetSteps.h"
 
 namespace {
 
@@ -162,33 +163,10 @@ class DlgParamsSetTest : public testing::Test {
     field->setPlainText(text);
     QTest::mouseClick(mdls->viewport(), Qt::LeftButton, {}, CellCenter(mdls, row, 1));
   }
-  // Runs `step` on the next popup or modal window of type T, once it shows.
-  template <typename T>
-  void WhenShown(std::function<void(T*)> step) {
-    auto* poll = new QTimer;
-    QObject::connect(poll, &QTimer::timeout, [poll, step] {
-      QWidget* top = QApplication::activePopupWidget();
-      if (!top) top = QApplication::activeModalWidget();
-      auto* widget = dynamic_cast<T*>(top);
-      if (!widget) return;
-      poll->stop();
-      poll->deleteLater();
-      step(widget);
-    });
-    poll->start(5);
-  }
   void ChooseFromMenu(CListCtrlEx* list, int row, const QString& text) {
-    WhenShown<QMenu>([text](QMenu* menu) {
-      QAction* chosen = nullptr;
-      for (QAction* action : menu->actions()) {
-        if (action->text() == text) chosen = action;
-      }
-      menu->close();
-      if (chosen) chosen->trigger();
-      EXPECT_NE(chosen, nullptr) << "no entry " << text.toStdString();
-    });
-    QTest::mouseClick(list->viewport(), Qt::RightButton, {}, CellCenter(list, row, 1));
+    ::ChooseFromMenu(list, CellCenter(list, row, 1), text);
   }
+
   // Control-clicks, as a user marks several rows.
   void SelectRows(CListCtrlEx* list, int first, int last) {
     list->clearSelection();
