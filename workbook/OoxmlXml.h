@@ -5,6 +5,7 @@
 
 #include <pugixml.hpp>
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -16,6 +17,13 @@ namespace workbook::ooxml {
 // Throws Error naming `part` when it is not well-formed.
 void ParsePart(pugi::xml_document& document, const Bytes& xml, std::string_view part);
 Bytes WritePart(const pugi::xml_document& document);
+// WritePart's bytes, but with what lies between the start and end tags of
+// `element` (the document element or below it) written by `writeContent`,
+// which may hand the element's own children to AppendNode.
+Bytes WritePartAround(const pugi::xml_document& document, pugi::xml_node element,
+                      const std::function<void(Bytes&)>& writeContent);
+// Appends the node with its subtree as WritePart writes it.
+void AppendNode(Bytes& out, pugi::xml_node node);
 
 std::string_view LocalName(pugi::xml_node node);
 pugi::xml_node Child(pugi::xml_node parent, std::string_view localName);

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <charconv>
-#include <cmath>
 
 #include "CellValues.h"
 #include "OoxmlXml.h"
@@ -37,17 +36,6 @@ const Bytes& PartData(const ZipPackage& package, const std::string& part) {
 std::string FolderOf(const std::string& part) {
   size_t slash = part.rfind('/');
   return slash == std::string::npos ? "" : part.substr(0, slash + 1);
-}
-
-std::string NumberText(double value) {
-  char buffer[32];
-  // Whole numbers below 2^53 (but zero, which may be -0) read the same
-  // either way; the integer conversion is the cheaper one.
-  constexpr double kExactIntegers = 9007199254740992.0;
-  auto result = value != 0 && std::trunc(value) == value && std::fabs(value) < kExactIntegers
-                    ? std::to_chars(buffer, buffer + sizeof buffer, static_cast<long long>(value))
-                    : std::to_chars(buffer, buffer + sizeof buffer, value);
-  return std::string(buffer, result.ptr);
 }
 
 // The relationship id of a <sheet>: r:id, whatever prefix names the
@@ -147,7 +135,7 @@ bool XlsxWorkbook::IsTextFormat(int style) const {
   return numberFormat == kBuiltInTextFormat || textNumberFormats_.count(numberFormat);
 }
 
-uint32_t XlsxWorkbook::AddSharedString(const std::wstring& text) {
+uint32_t XlsxWorkbook::AddSharedString(std::wstring_view text) {
   ++stringReferenceChange_;
   auto found = plainStrings_.find(text);
   if (found != plainStrings_.end()) return found->second;
@@ -158,41 +146,32 @@ uint32_t XlsxWorkbook::AddSharedString(const std::wstring& text) {
   }
   pugi::xml_node item = NewChild(sharedStrings_.document_element(), "si");
   SetItemText(NewChild(item, "t"), text);
-  strings_.push_back(text);
+  strings_.emplace_back(text);
   sharedStringsChanged_ = true;
-  return plainStrings_.emplace(text, static_cast<uint32_t>(strings_.size() - 1)).first->second;
+  return plainStrings_.emplace(strings_.back(), static_cast<uint32_t>(strings_.size() - 1)).first->second;
 }
 
 void XlsxWorkbook::SetCellText(std::wstring_view sheetName, int row, int column, std::wstring_view text) {
   Sheet& sheet = const_cast<Sheet&>(FindWorksheet(sheetName));
   CheckCellRange(row, column, kRowLimit, kColumnLimit);
-  pugi::xml_node cell = sheet.cells->FindCell(row, column);
-  if (sheet.cells->InFormulaGroup(row, column, cell)) {
+  WorksheetXml::CellState state = sheet.cells->StateOf(row, column);
+  if (state.inFormulaGroup) {
     throw Error("cell (row " + std::to_string(row) + ", column " + std::to_string(column) + ") of sheet " +
                 Quoted(sheetName) + " belongs to an array or shared formula and cannot be overwritten");
   }
 
-  std::optional<int> newStyle = cell ? std::nullopt : sheet.cells->StyleForNewCell(row, column);
-  int style = cell ? cell.attribute("s").as_int() : newStyle.value_or(0);
-  std::optional<double> number = IsTextFormat(style) ? std::nullopt : ParseTypedNumber(text);
-  if (cell) {
-    if (std::string_view(cell.attribute("t").value()) == "s") --stringReferenceChange_;
-    cell.remove_attribute("t");
-    for (const char* child : {"f", "v", "is"}) {
-      while (pugi::xml_node old = Child(cell, child)) cell.remove_child(old);
-    }
-  } else {
-    cell = sheet.cells->MakeCell(row, column, newStyle);
-  }
+  CellValue value;
   if (!text.empty()) {
-    pugi::xml_node value = NewChild(cell, "v", cell.first_child());
+    std::optional<double> number =
+        IsTextFormat(state.style.value_or(0)) ? std::nullopt : ParseTypedNumber(text);
     if (number) {
-      value.text().set(NumberText(*number).c_str());
+      value = {CellValue::Type::Number, *number};
     } else {
-      cell.append_attribute("t") = "s";
-      value.text().set(AddSharedString(std::wstring(text)));
+      value = {CellValue::Type::SharedString, 0, AddSharedString(text)};
     }
   }
+  if (state.holdsSharedString) --stringReferenceChange_;
+  sheet.cells->SetCell(row, column, state, value);
   sheet.changed = true;
 }
 
@@ -205,6 +184,16 @@ void XlsxWorkbook::SetModelRow(std::wstring_view sheetName, int row) {
 std::wstring XlsxWorkbook::GetCellText(std::wstring_view sheetName, int row, int column) const {
   const Sheet& sheet = FindWorksheet(sheetName);
   CheckCellRange(row, column, kRowLimit, kColumnLimit);
+  if (const CellValue* value = sheet.cells->FindNewCell(row, column)) {
+    switch (value->type) {
+      case CellValue::Type::Number:
+        return FormatNumber(value->number);
+      case CellValue::Type::SharedString:
+        return strings_[value->sharedString];
+      case CellValue::Type::Empty:
+        return L"";
+    }
+  }
   pugi::xml_node cell = sheet.cells->FindCell(row, column);
   std::string_view type = cell.attribute("t").value();
   std::string_view value = Child(cell, "v").text().get();
