@@ -2,6 +2,7 @@
 
 #include <cstdio>
 #include <cwctype>
+#include <initializer_list>
 
 #include "Error.h"
 #include "TextCodec.h"
@@ -65,7 +66,9 @@ struct BytesWriter : pugi::xml_writer {
   Bytes& bytes;
 };
 
-void Append(Bytes& out, std::string_view text) { out.insert(out.end(), text.begin(), text.end()); }
+void Append(Bytes& out, std::initializer_list<std::string_view> texts) {
+  for (std::string_view text : texts) out.insert(out.end(), text.begin(), text.end());
+}
 
 bool IsAncestorOrSelf(pugi::xml_node node, pugi::xml_node of) {
   for (; of; of = of.parent()) {
@@ -109,9 +112,7 @@ void AppendAround(Bytes& out, pugi::xml_node node, pugi::xml_node element,
       }
     }
   }
-  Append(out, "</");
-  Append(out, node.name());
-  Append(out, ">");
+  Append(out, {"</", node.name(), ">"});
 }
 
 }  // namespace
@@ -164,10 +165,13 @@ pugi::xml_node Child(pugi::xml_node parent, std::string_view localName) {
   return {};
 }
 
+std::string_view Prefix(pugi::xml_node node) {
+  std::string_view name = node.name();
+  return name.substr(0, name.size() - LocalName(node).size());
+}
+
 pugi::xml_node NewChild(pugi::xml_node parent, std::string_view localName, pugi::xml_node before) {
-  std::string_view parentName = parent.name();
-  size_t colon = parentName.find(':');
-  std::string name = colon == std::string_view::npos ? "" : std::string(parentName.substr(0, colon + 1));
+  std::string name(Prefix(parent));
   name += localName;
   return before ? parent.insert_child_before(name.c_str(), before) : parent.append_child(name.c_str());
 }
@@ -181,12 +185,28 @@ std::wstring ItemText(pugi::xml_node item) {
   return text;
 }
 
-void SetItemText(pugi::xml_node t, std::wstring_view text) {
+void AppendStringItem(Bytes& out, std::string_view prefix, std::wstring_view text) {
   std::wstring escaped = Escape(text);
   bool keepBlanks = !escaped.empty() && (std::iswspace(escaped.front()) || std::iswspace(escaped.back()) ||
                                          escaped.find(L"  ") != std::wstring::npos);
-  if (keepBlanks) t.append_attribute("xml:space") = "preserve";
-  t.text().set(ToUtf8(escaped).c_str());
+  Append(out, {"<", prefix, "si><", prefix, keepBlanks ? "t xml:space=\"preserve\">" : "t>"});
+  // Escape() left no control characters but tab and line ends, which XML holds.
+  for (char c : ToUtf8(escaped)) {
+    switch (c) {
+      case '&':
+        Append(out, {"&amp;"});
+        break;
+      case '<':
+        Append(out, {"&lt;"});
+        break;
+      case '>':
+        Append(out, {"&gt;"});
+        break;
+      default:
+        out.push_back(static_cast<uint8_t>(c));
+    }
+  }
+  Append(out, {"</", prefix, "t></", prefix, "si>"});
 }
 
 }  // namespace workbook::ooxml

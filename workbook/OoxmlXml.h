@@ -26,6 +26,8 @@ Bytes WritePartAround(const pugi::xml_document& document, pugi::xml_node element
 void AppendNode(Bytes& out, pugi::xml_node node);
 
 std::string_view LocalName(pugi::xml_node node);
+// What comes before the local name: "" or "x:".
+std::string_view Prefix(pugi::xml_node node);
 pugi::xml_node Child(pugi::xml_node parent, std::string_view localName);
 // A new element with the prefix its parent uses, before `before` or at the end.
 pugi::xml_node NewChild(pugi::xml_node parent, std::string_view localName, pugi::xml_node before = {});
@@ -33,7 +35,8 @@ pugi::xml_node NewChild(pugi::xml_node parent, std::string_view localName, pugi:
 // The text of a string item (<si>, <is>): its <t>, or the <t> of its runs;
 // phonetic runs are left out.
 std::wstring ItemText(pugi::xml_node item);
-// Sets the <t> text, escaping what XML cannot hold and keeping blanks.
-void SetItemText(pugi::xml_node t, std::wstring_view text);
+// Appends a string item <si><t>text</t></si>, its element names prefixed
+// with `prefix`, escaping what XML cannot hold and keeping blanks.
+void AppendStringItem(Bytes& out, std::string_view prefix, std::wstring_view text);
 
 }  // namespace workbook::ooxml

@@ -61,8 +61,7 @@ WorksheetXml::WorksheetXml(const Bytes& xml, std::string_view part) {
   ParsePart(document_, xml, part);
   sheetData_ = Child(document_.document_element(), "sheetData");
   if (!sheetData_) throw Error("damaged workbook: " + std::string(part) + " has no sheet data");
-  std::string_view name = sheetData_.name();
-  prefix_ = name.substr(0, name.size() - LocalName(sheetData_).size());
+  prefix_ = Prefix(sheetData_);
   int previousRow = 0;
   for (pugi::xml_node row : sheetData_.children()) {
     if (LocalName(row) != "row") continue;

@@ -98,6 +98,7 @@ void XlsxWorkbook::ReadSharedStrings() {
     strings_.push_back(ItemText(item));
     if (Child(item, "t")) plainStrings_.emplace(strings_.back(), static_cast<uint32_t>(strings_.size() - 1));
   }
+  readStrings_ = strings_.size();
 }
 
 void XlsxWorkbook::ReadStyles(const std::string& part) {
@@ -144,8 +145,6 @@ uint32_t XlsxWorkbook::AddSharedString(std::wstring_view text) {
     ParsePart(sharedStrings_, Bytes(kSharedStringsXml, kSharedStringsXml + sizeof kSharedStringsXml - 1),
               sharedStringsPart_);
   }
-  pugi::xml_node item = NewChild(sharedStrings_.document_element(), "si");
-  SetItemText(NewChild(item, "t"), text);
   strings_.emplace_back(text);
   sharedStringsChanged_ = true;
   return plainStrings_.emplace(strings_.back(), static_cast<uint32_t>(strings_.size() - 1)).first->second;
@@ -211,6 +210,17 @@ std::wstring XlsxWorkbook::GetCellText(std::wstring_view sheetName, int row, int
   return FromUtf8(value);
 }
 
+Bytes XlsxWorkbook::WriteSharedStrings() const {
+  pugi::xml_node root = sharedStrings_.document_element();
+  SetCount(root, "uniqueCount", static_cast<long long>(strings_.size()));
+  SetCount(root, "count", readStringReferences_ + stringReferenceChange_);
+  std::string_view prefix = Prefix(root);
+  return WritePartAround(sharedStrings_, root, [&](Bytes& out) {
+    for (pugi::xml_node child : root.children()) AppendNode(out, child);
+    for (size_t i = readStrings_; i < strings_.size(); ++i) AppendStringItem(out, prefix, strings_[i]);
+  });
+}
+
 Bytes XlsxWorkbook::Save() const {
   ZipPackage package = package_;
   bool anyChanged = false;
@@ -245,13 +255,10 @@ Bytes XlsxWorkbook::Save() const {
   }
 
   if (sharedStringsChanged_ || stringReferenceChange_ != 0) {
-    pugi::xml_node root = sharedStrings_.document_element();
-    SetCount(root, "uniqueCount", static_cast<long long>(strings_.size()));
-    SetCount(root, "count", readStringReferences_ + stringReferenceChange_);
     if (ZipPart* part = package.Find(sharedStringsPart_)) {
-      part->data = WritePart(sharedStrings_);
+      part->data = WriteSharedStrings();
     } else {
-      package.Add(sharedStringsPart_, WritePart(sharedStrings_));
+      package.Add(sharedStringsPart_, WriteSharedStrings());
       packageChanged = true;
       pugi::xml_node relationship = NewChild(relations.document_element(), "Relationship");
       relationship.append_attribute("Id") = NewRelationshipId(relations_).c_str();

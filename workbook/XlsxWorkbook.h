@@ -46,8 +46,7 @@ class XlsxWorkbook : public Workbook {
   const Sheet& FindWorksheet(std::wstring_view name) const;
   uint32_t AddSharedString(std::wstring_view text);
   bool IsTextFormat(int style) const;
-  void WriteSharedStrings(ZipPackage& package) const;
-  void DropCalculationChain(ZipPackage& package) const;
+  Bytes WriteSharedStrings() const;
 
   ZipPackage package_;
   std::string workbookPart_;
@@ -59,7 +58,9 @@ class XlsxWorkbook : public Workbook {
   long long readStringReferences_ = 0;
   std::string sharedStringsPart_;
   bool sharedStringsChanged_ = false;
+  // The items read and then the texts added, which are written at save.
   std::vector<std::wstring> strings_;
+  size_t readStrings_ = 0;
   // Found by a view of the text, so that a text seen before is not copied.
   struct TextHash {
     using is_transparent = void;
