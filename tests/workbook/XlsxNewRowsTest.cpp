@@ -1,7 +1,8 @@
-// Rows a worksheet did not have are kept apart from the rows it had until the
-// sheet is saved: written in any order, between and below the template's
-// rows, overwritten and read back, they must come out as one sheet in the
-// order SpreadsheetML requires, with the shared strings counted right.
+// Rows a worksheet did not have, and texts its string table did not have,
+// are kept apart from the parts' trees until the workbook is saved: written
+// in any order, between and below the template's rows, overwritten and read
+// back, they must come out as one sheet in the order SpreadsheetML requires,
+// with the shared strings escaped and counted right.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -92,6 +93,33 @@ TEST(XlsxNewRows, WrittenInAnyOrderTheyJoinTheTemplatesRowsInOrder) {
          TextCell("Sheet1", 7, 2, "a number, then text"), TextCell("Sheet1", 1, 1, "Perl Home"),
          TextCell("Sheet1", 6, 1, "Perl Home")}}},
       dir.path());
+}
+
+TEST(XlsxNewStrings, MarkupBlanksAndEscapesReadBackAsWritten) {
+  const std::vector<std::pair<std::wstring, std::string>> texts = {
+      {L"a&b<c>d\"e'f", "a&b<c>d\"e'f"},
+      {L" lead and trail ", " lead and trail "},
+      {L"two  inside", "two  inside"},
+      {L"tab\there", "tab\there"},
+      {L"_x0041_ is no escape", "_x0041_ is no escape"},
+      {L"齿轮 \U0001F600", "齿轮 \U0001F600"}};
+  auto book = workbook::OpenWorkbook(kTemplate);
+  std::vector<ExpectedCell> cells;
+  for (size_t i = 0; i < texts.size(); ++i) {
+    int row = 10 + static_cast<int>(i);
+    book->SetCellText(kSheet, row, 1, texts[i].first);
+    cells.push_back(TextCell("Sheet1", row, 1, texts[i].second));
+  }
+  TestDir dir;
+  fs::path file = dir.path() / "strings.xlsx";
+  book->SaveAs(file);
+  // The readers here keep blanks either way; Excel needs to be told.
+  EXPECT_THAT(ZipParts(file)["xl/sharedStrings.xml"],
+              testing::HasSubstr("<si><t xml:space=\"preserve\"> lead and trail </t></si>"));
+  auto reopened = workbook::OpenWorkbook(file);
+  for (size_t i = 0; i < texts.size(); ++i)
+    EXPECT_EQ(reopened->GetCellText(kSheet, 10 + static_cast<int>(i), 1), texts[i].first) << i;
+  ExpectIndependentReadersAgree({{file, kTemplate, cells}}, dir.path());
 }
 
 }  // namespace
