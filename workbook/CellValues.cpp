@@ -4,6 +4,7 @@
 #include <charconv>
 #include <cmath>
 #include <cwctype>
+#include <string_view>
 
 #include "Error.h"
 
@@ -32,6 +33,20 @@ bool TakeIntegerPart(std::wstring_view text, size_t& i, std::string& digits) {
   return !grouped || groupLength == 3;
 }
 
+// Up to 15 digits: the digits as a whole number and the power of ten are
+// both exact in a double, so the one rounding of their quotient gives what
+// from_chars gives, at a fraction of its cost. Most typed numbers are such.
+std::optional<double> ExactQuotient(std::string_view integer, std::string_view fraction) {
+  constexpr double kPowersOfTen[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                     1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+  if (integer.size() + fraction.size() > 15) return std::nullopt;
+  double digits = 0;
+  for (std::string_view part : {integer, fraction}) {
+    for (char digit : part) digits = digits * 10 + (digit - '0');
+  }
+  return digits / kPowersOfTen[fraction.size()];
+}
+
 }  // namespace
 
 std::optional<double> ParseTypedNumber(std::wstring_view text) {
@@ -42,8 +57,9 @@ std::optional<double> ParseTypedNumber(std::wstring_view text) {
   text = text.substr(0, end);
 
   std::string number;
-  if (i < text.size() && (text[i] == L'+' || text[i] == L'-')) {
-    if (text[i] == L'-') number += '-';
+  bool negative = i < text.size() && text[i] == L'-';
+  if (i < text.size() && (text[i] == L'+' || negative)) {
+    if (negative) number += '-';
     ++i;
   }
   std::string integer;
@@ -56,7 +72,11 @@ std::optional<double> ParseTypedNumber(std::wstring_view text) {
   }
   if (integer.empty() && fraction.empty()) return std::nullopt;
   if (!fraction.empty()) number += "." + fraction;
-  if (i < text.size() && (text[i] == L'e' || text[i] == L'E')) {
+  bool hasExponent = i < text.size() && (text[i] == L'e' || text[i] == L'E');
+  if (!hasExponent && i == text.size()) {
+    if (auto quotient = ExactQuotient(integer, fraction)) return negative ? -*quotient : *quotient;
+  }
+  if (hasExponent) {
     number += 'e';
     ++i;
     if (i < text.size() && (text[i] == L'+' || text[i] == L'-')) number += static_cast<char>(text[i++]);

@@ -5,6 +5,7 @@
 
 #include <pugixml.hpp>
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -16,8 +17,17 @@ namespace workbook::ooxml {
 // Throws Error naming `part` when it is not well-formed.
 void ParsePart(pugi::xml_document& document, const Bytes& xml, std::string_view part);
 Bytes WritePart(const pugi::xml_document& document);
+// WritePart's bytes, but with what lies between the start and end tags of
+// `element` (the document element or below it) written by `writeContent`,
+// which may hand the element's own children to AppendNode.
+Bytes WritePartAround(const pugi::xml_document& document, pugi::xml_node element,
+                      const std::function<void(Bytes&)>& writeContent);
+// Appends the node with its subtree as WritePart writes it.
+void AppendNode(Bytes& out, pugi::xml_node node);
 
 std::string_view LocalName(pugi::xml_node node);
+// What comes before the local name: "" or "x:".
+std::string_view Prefix(pugi::xml_node node);
 pugi::xml_node Child(pugi::xml_node parent, std::string_view localName);
 // A new element with the prefix its parent uses, before `before` or at the end.
 pugi::xml_node NewChild(pugi::xml_node parent, std::string_view localName, pugi::xml_node before = {});
@@ -25,7 +35,8 @@ pugi::xml_node NewChild(pugi::xml_node parent, std::string_view localName, pugi:
 // The text of a string item (<si>, <is>): its <t>, or the <t> of its runs;
 // phonetic runs are left out.
 std::wstring ItemText(pugi::xml_node item);
-// Sets the <t> text, escaping what XML cannot hold and keeping blanks.
-void SetItemText(pugi::xml_node t, std::wstring_view text);
+// Appends a string item <si><t>text</t></si>, its element names prefixed
+// with `prefix`, escaping what XML cannot hold and keeping blanks.
+void AppendStringItem(Bytes& out, std::string_view prefix, std::wstring_view text);
 
 }  // namespace workbook::ooxml

@@ -1,6 +1,8 @@
 #include "WorksheetXml.h"
 
 #include <algorithm>
+#include <iterator>
+#include <limits>
 #include <string>
 
 #include "CellValues.h"
@@ -59,6 +61,7 @@ WorksheetXml::WorksheetXml(const Bytes& xml, std::string_view part) {
   ParsePart(document_, xml, part);
   sheetData_ = Child(document_.document_element(), "sheetData");
   if (!sheetData_) throw Error("damaged workbook: " + std::string(part) + " has no sheet data");
+  prefix_ = Prefix(sheetData_);
   int previousRow = 0;
   for (pugi::xml_node row : sheetData_.children()) {
     if (LocalName(row) != "row") continue;
@@ -106,6 +109,34 @@ pugi::xml_node WorksheetXml::FindCell(int row, int column) const {
   return cellIt == cells.end() || cellIt->first != column ? pugi::xml_node() : cellIt->second;
 }
 
+const CellValue* WorksheetXml::FindNewCell(int row, int column) const {
+  const NewRows::Cell* cell = newRows_.Find(row, column);
+  return cell ? &cell->value : nullptr;
+}
+
+WorksheetXml::CellState WorksheetXml::StateOf(int row, int column) const {
+  CellState state;
+  state.inFormulaGroup = std::any_of(arrays_.begin(), arrays_.end(), [&](const Range& range) {
+    return range.first.row <= row && row <= range.last.row && range.first.column <= column &&
+           column <= range.last.column;
+  });
+  if (pugi::xml_node cell = FindCell(row, column)) {
+    state.exists = true;
+    state.style = cell.attribute("s").as_int();
+    state.holdsSharedString = std::string_view(cell.attribute("t").value()) == "s";
+    pugi::xml_node formula = Child(cell, "f");
+    if (std::string_view(formula.attribute("t").value()) == "shared" && formula.attribute("ref"))
+      state.inFormulaGroup = true;
+  } else if (const NewRows::Cell* written = newRows_.Find(row, column)) {
+    state.exists = true;
+    state.style = written->style;
+    state.holdsSharedString = written->value.type == CellValue::Type::SharedString;
+  } else {
+    state.style = StyleForNewCell(row, column);
+  }
+  return state;
+}
+
 std::optional<int> WorksheetXml::StyleForNewCell(int row, int column) const {
   const Row* entry = FindRow(row);
   if (entry && entry->node.attribute("customFormat").as_bool()) {
@@ -113,6 +144,7 @@ std::optional<int> WorksheetXml::StyleForNewCell(int row, int column) const {
   }
   if (modelRow_ && row > lastReadRow_) {
     if (pugi::xml_node model = FindCell(*modelRow_, column)) return model.attribute("s").as_int();
+    if (const NewRows::Cell* model = newRows_.Find(*modelRow_, column)) return model->style.value_or(0);
   }
   for (const ColumnStyle& range : columnStyles_) {
     if (range.min <= column && column <= range.max) return range.style;
@@ -120,19 +152,8 @@ std::optional<int> WorksheetXml::StyleForNewCell(int row, int column) const {
   return std::nullopt;
 }
 
-bool WorksheetXml::InFormulaGroup(int row, int column, pugi::xml_node cell) const {
-  for (const Range& range : arrays_) {
-    if (range.first.row <= row && row <= range.last.row && range.first.column <= column &&
-        column <= range.last.column) {
-      return true;
-    }
-  }
-  if (!cell) return false;
-  pugi::xml_node formula = Child(cell, "f");
-  return std::string_view(formula.attribute("t").value()) == "shared" && formula.attribute("ref");
-}
-
 const WorksheetXml::Row* WorksheetXml::FindRow(int row) const {
+  if (row > lastReadRow_) return nullptr;
   if (!lastFound_ || lastFound_->first != row) {
     auto found = rows_.find(row);
     if (found == rows_.end()) return nullptr;
@@ -141,29 +162,38 @@ const WorksheetXml::Row* WorksheetXml::FindRow(int row) const {
   return &lastFound_->second;
 }
 
-WorksheetXml::RowMap::iterator WorksheetXml::MakeRow(int row) {
-  auto next = rows_.upper_bound(row);
-  pugi::xml_node node =
-      NewChild(sheetData_, "row", next == rows_.end() ? pugi::xml_node() : next->second.node);
-  node.append_attribute("r") = row;
-  return rows_.emplace_hint(next, row, Row{node, {}});
-}
-
-pugi::xml_node WorksheetXml::MakeCell(int row, int column, std::optional<int> style) {
+void WorksheetXml::SetCell(int row, int column, const CellState& state, const CellValue& value) {
   auto rowIt = rows_.find(row);
-  if (rowIt == rows_.end()) rowIt = MakeRow(row);
+  if (rowIt == rows_.end()) {
+    newRows_.Make(row, column, state.style).value = value;
+    if (!state.exists) ExtendDimension(row, column);
+    return;
+  }
   Row& entry = rowIt->second;
   auto next = CellAtOrAfter(entry.cells, column);
-  if (next != entry.cells.end() && next->first == column) return next->second;
-  pugi::xml_node cell =
-      NewChild(entry.node, "c", next == entry.cells.end() ? pugi::xml_node() : next->second);
-  cell.append_attribute("r") = FormatCellRef(row, column).c_str();
-  if (style) cell.append_attribute("s") = *style;
-  entry.cells.emplace(next, column, cell);
-
-  if (pugi::xml_attribute spans = entry.node.attribute("spans")) ExtendSpans(spans, column);
-  ExtendDimension(row, column);
-  return cell;
+  pugi::xml_node cell;
+  if (next != entry.cells.end() && next->first == column) {
+    cell = next->second;
+    cell.remove_attribute("t");
+    for (const char* child : {"f", "v", "is"}) {
+      while (pugi::xml_node old = Child(cell, child)) cell.remove_child(old);
+    }
+  } else {
+    cell = NewChild(entry.node, "c", next == entry.cells.end() ? pugi::xml_node() : next->second);
+    cell.append_attribute("r") = FormatCellRef(row, column).c_str();
+    if (state.style) cell.append_attribute("s") = *state.style;
+    entry.cells.emplace(next, column, cell);
+    if (pugi::xml_attribute spans = entry.node.attribute("spans")) ExtendSpans(spans, column);
+    ExtendDimension(row, column);
+  }
+  if (value.type == CellValue::Type::Empty) return;
+  pugi::xml_node text = NewChild(cell, "v", cell.first_child());
+  if (value.type == CellValue::Type::Number) {
+    text.text().set(NumberText(value.number).c_str());
+  } else {
+    cell.append_attribute("t") = "s";
+    text.text().set(value.sharedString);
+  }
 }
 
 void WorksheetXml::ExtendSpans(pugi::xml_attribute spans, int column) {
@@ -184,6 +214,19 @@ void WorksheetXml::ExtendDimension(int row, int column) {
   dimension_ = (from == to ? from : from + ":" + to).c_str();
 }
 
-Bytes WorksheetXml::Write() const { return WritePart(document_); }
+Bytes WorksheetXml::Write() const {
+  return WritePartAround(document_, sheetData_, [this](Bytes& out) {
+    // A new row goes before the first row the part had below it.
+    for (pugi::xml_node child : sheetData_.children()) {
+      if (LocalName(child) == "row") {
+        auto row = rows_.find(child.attribute("r").as_int());
+        if (row != rows_.end() && row->second.node == child)
+          newRows_.Write(out, prefix_, row == rows_.begin() ? 0 : std::prev(row)->first, row->first);
+      }
+      AppendNode(out, child);
+    }
+    newRows_.Write(out, prefix_, rows_.empty() ? 0 : rows_.rbegin()->first, std::numeric_limits<int>::max());
+  });
+}
 
 }  // namespace workbook::ooxml

@@ -6,11 +6,13 @@
 
 #include <map>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
 #include "Bytes.h"
 #include "CellValues.h"
+#include "NewRows.h"
 
 namespace workbook::ooxml {
 
@@ -19,18 +21,31 @@ class WorksheetXml {
   // Throws Error naming `part` when it is not a worksheet.
   WorksheetXml(const Bytes& xml, std::string_view part);
 
-  // Rows and columns count from 1. A null node when there is no such cell.
-  pugi::xml_node FindCell(int row, int column) const;
-  // The cell, made with `style` when it is missing; the sheet's dimension
-  // grows to hold it.
-  pugi::xml_node MakeCell(int row, int column, std::optional<int> style);
-  // What a new cell takes: its row's format, else below the rows read the
-  // model row's cell's (SetModelRow), else its column's.
-  std::optional<int> StyleForNewCell(int row, int column) const;
+  // What writing a cell depends on.
+  struct CellState {
+    // The cell's style; a missing cell's is the one it will be made with:
+    // its row's format, else below the rows read the model row's cell's
+    // (SetModelRow), else its column's. None reads as 0.
+    std::optional<int> style;
+    bool exists = false;
+    // It holds a shared string, whose reference goes when it is written.
+    bool holdsSharedString = false;
+    // It lies in an array formula's range or is the master of a shared
+    // formula: Excel changes neither alone.
+    bool inFormulaGroup = false;
+  };
+  // Rows and columns count from 1.
+  CellState StateOf(int row, int column) const;
+  // Replaces the cell's value and formula. A missing cell is made with
+  // `state.style` and the sheet's dimension grows to hold it. `state` is
+  // StateOf's answer for the cell, which is not in a formula group.
+  void SetCell(int row, int column, const CellState& state, const CellValue& value);
   void SetModelRow(int row) { modelRow_ = row; }
-  // Whether the cell lies in an array formula's range or is the master of a
-  // shared formula: Excel changes neither alone. `cell` is FindCell's answer.
-  bool InFormulaGroup(int row, int column, pugi::xml_node cell) const;
+
+  // A cell of the rows the part had; null when there is no such cell.
+  pugi::xml_node FindCell(int row, int column) const;
+  // A cell written into a row the part did not have; null when there is none.
+  const CellValue* FindNewCell(int row, int column) const;
 
   Bytes Write() const;
 
@@ -58,13 +73,17 @@ class WorksheetXml {
   // The row, null when it is missing. Remembers the last row found, as
   // cells come row by row.
   const Row* FindRow(int row) const;
-  RowMap::iterator MakeRow(int row);
+  std::optional<int> StyleForNewCell(int row, int column) const;
   void ExtendSpans(pugi::xml_attribute spans, int column);
   void ExtendDimension(int row, int column);
 
   pugi::xml_document document_;
   pugi::xml_node sheetData_;
+  // The rows the part had; the ones written besides them are newRows_.
   RowMap rows_;
+  NewRows newRows_;
+  // The prefix of the elements of sheetData_ ("" or "x:").
+  std::string prefix_;
   mutable const RowMap::value_type* lastFound_ = nullptr;
   std::vector<Range> arrays_;
   // <cols> with a style, read once: the engine never changes them.

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <charconv>
-#include <cmath>
 
 #include "CellValues.h"
 #include "OoxmlXml.h"
@@ -37,17 +36,6 @@ const Bytes& PartData(const ZipPackage& package, const std::string& part) {
 std::string FolderOf(const std::string& part) {
   size_t slash = part.rfind('/');
   return slash == std::string::npos ? "" : part.substr(0, slash + 1);
-}
-
-std::string NumberText(double value) {
-  char buffer[32];
-  // Whole numbers below 2^53 (but zero, which may be -0) read the same
-  // either way; the integer conversion is the cheaper one.
-  constexpr double kExactIntegers = 9007199254740992.0;
-  auto result = value != 0 && std::trunc(value) == value && std::fabs(value) < kExactIntegers
-                    ? std::to_chars(buffer, buffer + sizeof buffer, static_cast<long long>(value))
-                    : std::to_chars(buffer, buffer + sizeof buffer, value);
-  return std::string(buffer, result.ptr);
 }
 
 // The relationship id of a <sheet>: r:id, whatever prefix names the
@@ -110,6 +98,7 @@ void XlsxWorkbook::ReadSharedStrings() {
     strings_.push_back(ItemText(item));
     if (Child(item, "t")) plainStrings_.emplace(strings_.back(), static_cast<uint32_t>(strings_.size() - 1));
   }
+  readStrings_ = strings_.size();
 }
 
 void XlsxWorkbook::ReadStyles(const std::string& part) {
@@ -147,7 +136,7 @@ bool XlsxWorkbook::IsTextFormat(int style) const {
   return numberFormat == kBuiltInTextFormat || textNumberFormats_.count(numberFormat);
 }
 
-uint32_t XlsxWorkbook::AddSharedString(const std::wstring& text) {
+uint32_t XlsxWorkbook::AddSharedString(std::wstring_view text) {
   ++stringReferenceChange_;
   auto found = plainStrings_.find(text);
   if (found != plainStrings_.end()) return found->second;
@@ -156,43 +145,32 @@ uint32_t XlsxWorkbook::AddSharedString(const std::wstring& text) {
     ParsePart(sharedStrings_, Bytes(kSharedStringsXml, kSharedStringsXml + sizeof kSharedStringsXml - 1),
               sharedStringsPart_);
   }
-  pugi::xml_node item = NewChild(sharedStrings_.document_element(), "si");
-  SetItemText(NewChild(item, "t"), text);
-  strings_.push_back(text);
+  strings_.emplace_back(text);
   sharedStringsChanged_ = true;
-  return plainStrings_.emplace(text, static_cast<uint32_t>(strings_.size() - 1)).first->second;
+  return plainStrings_.emplace(strings_.back(), static_cast<uint32_t>(strings_.size() - 1)).first->second;
 }
 
 void XlsxWorkbook::SetCellText(std::wstring_view sheetName, int row, int column, std::wstring_view text) {
   Sheet& sheet = const_cast<Sheet&>(FindWorksheet(sheetName));
   CheckCellRange(row, column, kRowLimit, kColumnLimit);
-  pugi::xml_node cell = sheet.cells->FindCell(row, column);
-  if (sheet.cells->InFormulaGroup(row, column, cell)) {
+  WorksheetXml::CellState state = sheet.cells->StateOf(row, column);
+  if (state.inFormulaGroup) {
     throw Error("cell (row " + std::to_string(row) + ", column " + std::to_string(column) + ") of sheet " +
                 Quoted(sheetName) + " belongs to an array or shared formula and cannot be overwritten");
   }
 
-  std::optional<int> newStyle = cell ? std::nullopt : sheet.cells->StyleForNewCell(row, column);
-  int style = cell ? cell.attribute("s").as_int() : newStyle.value_or(0);
-  std::optional<double> number = IsTextFormat(style) ? std::nullopt : ParseTypedNumber(text);
-  if (cell) {
-    if (std::string_view(cell.attribute("t").value()) == "s") --stringReferenceChange_;
-    cell.remove_attribute("t");
-    for (const char* child : {"f", "v", "is"}) {
-      while (pugi::xml_node old = Child(cell, child)) cell.remove_child(old);
-    }
-  } else {
-    cell = sheet.cells->MakeCell(row, column, newStyle);
-  }
+  CellValue value;
   if (!text.empty()) {
-    pugi::xml_node value = NewChild(cell, "v", cell.first_child());
+    std::optional<double> number =
+        IsTextFormat(state.style.value_or(0)) ? std::nullopt : ParseTypedNumber(text);
     if (number) {
-      value.text().set(NumberText(*number).c_str());
+      value = {CellValue::Type::Number, *number};
     } else {
-      cell.append_attribute("t") = "s";
-      value.text().set(AddSharedString(std::wstring(text)));
+      value = {CellValue::Type::SharedString, 0, AddSharedString(text)};
     }
   }
+  if (state.holdsSharedString) --stringReferenceChange_;
+  sheet.cells->SetCell(row, column, state, value);
   sheet.changed = true;
 }
 
@@ -205,6 +183,16 @@ void XlsxWorkbook::SetModelRow(std::wstring_view sheetName, int row) {
 std::wstring XlsxWorkbook::GetCellText(std::wstring_view sheetName, int row, int column) const {
   const Sheet& sheet = FindWorksheet(sheetName);
   CheckCellRange(row, column, kRowLimit, kColumnLimit);
+  if (const CellValue* value = sheet.cells->FindNewCell(row, column)) {
+    switch (value->type) {
+      case CellValue::Type::Number:
+        return FormatNumber(value->number);
+      case CellValue::Type::SharedString:
+        return strings_[value->sharedString];
+      case CellValue::Type::Empty:
+        return L"";
+    }
+  }
   pugi::xml_node cell = sheet.cells->FindCell(row, column);
   std::string_view type = cell.attribute("t").value();
   std::string_view value = Child(cell, "v").text().get();
@@ -220,6 +208,17 @@ std::wstring XlsxWorkbook::GetCellText(std::wstring_view sheetName, int row, int
   auto [end, error] = std::from_chars(value.data(), value.data() + value.size(), number);
   if (error == std::errc() && end == value.data() + value.size()) return FormatNumber(number);
   return FromUtf8(value);
+}
+
+Bytes XlsxWorkbook::WriteSharedStrings() const {
+  pugi::xml_node root = sharedStrings_.document_element();
+  SetCount(root, "uniqueCount", static_cast<long long>(strings_.size()));
+  SetCount(root, "count", readStringReferences_ + stringReferenceChange_);
+  std::string_view prefix = Prefix(root);
+  return WritePartAround(sharedStrings_, root, [&](Bytes& out) {
+    for (pugi::xml_node child : root.children()) AppendNode(out, child);
+    for (size_t i = readStrings_; i < strings_.size(); ++i) AppendStringItem(out, prefix, strings_[i]);
+  });
 }
 
 Bytes XlsxWorkbook::Save() const {
@@ -256,13 +255,10 @@ Bytes XlsxWorkbook::Save() const {
   }
 
   if (sharedStringsChanged_ || stringReferenceChange_ != 0) {
-    pugi::xml_node root = sharedStrings_.document_element();
-    SetCount(root, "uniqueCount", static_cast<long long>(strings_.size()));
-    SetCount(root, "count", readStringReferences_ + stringReferenceChange_);
     if (ZipPart* part = package.Find(sharedStringsPart_)) {
-      part->data = WritePart(sharedStrings_);
+      part->data = WriteSharedStrings();
     } else {
-      package.Add(sharedStringsPart_, WritePart(sharedStrings_));
+      package.Add(sharedStringsPart_, WriteSharedStrings());
       packageChanged = true;
       pugi::xml_node relationship = NewChild(relations.document_element(), "Relationship");
       relationship.append_attribute("Id") = NewRelationshipId(relations_).c_str();

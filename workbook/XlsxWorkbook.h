@@ -8,7 +8,9 @@
 
 #include <memory>
 #include <set>
+#include <functional>
 #include <string>
+#include <string_view>
 #include <unordered_map>
 #include <vector>
 
@@ -42,10 +44,9 @@ class XlsxWorkbook : public Workbook {
   void ReadSharedStrings();
   void ReadStyles(const std::string& part);
   const Sheet& FindWorksheet(std::wstring_view name) const;
-  uint32_t AddSharedString(const std::wstring& text);
+  uint32_t AddSharedString(std::wstring_view text);
   bool IsTextFormat(int style) const;
-  void WriteSharedStrings(ZipPackage& package) const;
-  void DropCalculationChain(ZipPackage& package) const;
+  Bytes WriteSharedStrings() const;
 
   ZipPackage package_;
   std::string workbookPart_;
@@ -57,8 +58,15 @@ class XlsxWorkbook : public Workbook {
   long long readStringReferences_ = 0;
   std::string sharedStringsPart_;
   bool sharedStringsChanged_ = false;
+  // The items read and then the texts added, which are written at save.
   std::vector<std::wstring> strings_;
-  std::unordered_map<std::wstring, uint32_t> plainStrings_;
+  size_t readStrings_ = 0;
+  // Found by a view of the text, so that a text seen before is not copied.
+  struct TextHash {
+    using is_transparent = void;
+    size_t operator()(std::wstring_view text) const { return std::hash<std::wstring_view>()(text); }
+  };
+  std::unordered_map<std::wstring, uint32_t, TextHash, std::equal_to<>> plainStrings_;
   long long stringReferenceChange_ = 0;
   std::vector<int> numberFormatOfStyle_;
   std::set<int> textNumberFormats_;
