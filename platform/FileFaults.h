@@ -9,7 +9,7 @@
 namespace platform {
 
 enum class FileFaultKind {
-  kDiskFull,           // writing stops with ENOSPC after `bytesBeforeFull` bytes
+  kDiskFull,           // writing a file stops with ENOSPC after `bytesBeforeFull` bytes
   kReadOnlyDirectory,  // no file can be made in the directory (EACCES)
   kHeldOpen,           // another program holds the target: the replace fails (EBUSY)
   kRenameRefused,      // the rename over the target is refused (EPERM)
