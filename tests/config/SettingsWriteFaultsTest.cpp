@@ -42,19 +42,6 @@ TEST_F(SettingsWriteFaultsTest, DiskFullHalfWayAnswersZeroAndKeepsTheTable) {
   EXPECT_EQ(reader.GetKeyValue(L"3", L"Columns"), L"数量");
 }
 
-TEST_F(SettingsWriteFaultsTest, RefusedReplaceAnswersZeroAndKeepsTheTable) {
-  for (platform::FileFaultKind kind :
-       {platform::FileFaultKind::kReadOnlyDirectory, platform::FileFaultKind::kHeldOpen,
-        platform::FileFaultKind::kRenameRefused}) {
-    platform::InjectFileFault({kind, dir.path() / "config" / "Tbl.cfg"});
-    EXPECT_EQ(reader.SetKey(L"重量", L"4", L"Columns"), 0) << static_cast<int>(kind);
-    ExpectTableKept();
-    platform::ClearFileFaults();
-  }
-  EXPECT_EQ(reader.SetKey(L"重量", L"4", L"Columns"), 1);
-  EXPECT_EQ(dir.Read("config/Tbl.cfg"), kColumns + "4=重量\n");
-}
-
 TEST_F(SettingsWriteFaultsTest, ReadOnlyFileIsNotRewritten) {
   fs::permissions(dir.path() / "config" / "Tbl.cfg",
                   fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write,

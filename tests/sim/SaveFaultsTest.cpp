@@ -53,9 +53,3 @@ TEST_F(SimSaveFaults, DiskFullHalfWayCannotWriteAndKeepsThePreviousVersion) {
   EXPECT_EQ(Origin(shaft), dir.Wide("work/shaft.prt.3"));
   EXPECT_EQ(dir.Read("work/shaft.prt.2"), kSaved);
 }
-
-TEST_F(SimSaveFaults, ReadOnlyDirectoryCannotWrite) {
-  platform::InjectFileFault({platform::FileFaultKind::kReadOnlyDirectory, dir.path() / "work"});
-  EXPECT_EQ(ProMdlSave(shaft), PRO_TK_CANT_WRITE);
-  ExpectOnlyTheOldVersion();
-}
