@@ -21,12 +21,6 @@ bool AskYes(const std::wstring& question) {
 
 void Tell(const std::wstring& text) { CTkLog().ShowPrompt(text, kCaption, platform::kMbOk, nullptr, 0); }
 
-// The outputs remove their target file first and do not look at the result;
-// a directory of that name is left alone.
-void DeleteTargetFile(const std::wstring& path) {
-  if (!platform::DirectoryExists(path)) platform::DeletePermanently(path);
-}
-
 void OfferToOpen(ExcelApp& excel, const std::wstring& path) {
   if (AskYes(L"是否打开：" + path + L" ？")) excel.OpenFileInShell(path);
 }
@@ -89,8 +83,9 @@ int WriteBomExcel(const BomOutputTarget& target, const BomCheckedRows& rows) {
   const std::wstring dir = BomExcelDir(target.outDir);
   platform::CreateDirectory(dir);
   const std::wstring path = dir + L"\\" + target.fileName + ExcelApp::ExtensionFor(templatePath);
+  // The agreed overwrite is the save's replace: until the new workbook is
+  // whole on disk the old one stays, so a failure loses nothing.
   if (CTkFile().FileExists(path) && !AskYes(L"文件：" + path + L" 已经存在，是否覆盖？")) return 0;
-  DeleteTargetFile(path);
 
   ExcelApp excel;
   if (!excel.StartExcel(1)) {
@@ -125,10 +120,12 @@ int WriteBomExcel(const BomOutputTarget& target, const BomCheckedRows& rows) {
 int WriteBomText(const BomOutputTarget& target, const std::vector<ColInfo>& cols,
                  const BomCheckedRows& rows) {
   const std::wstring path = BomTextPath(target);
-  DeleteTargetFile(path);
+  // All lines in one write that replaces the old file, so that a failure
+  // leaves the old file whole rather than removed or cut short.
+  std::wstring text = BomTextHeaderLine(cols) + L"\r\n";
+  for (const std::vector<std::wstring>& cells : rows) text += BomTextLine(cells) + L"\r\n";
   ExcelApp excel;
-  excel.AppendLine(path, BomTextHeaderLine(cols) + L"\r\n", 0);
-  for (const std::vector<std::wstring>& cells : rows) excel.AppendLine(path, BomTextLine(cells) + L"\r\n", 0);
+  excel.AppendLine(path, text, 1);
   OfferToOpen(excel, path);
   return 1;
 }

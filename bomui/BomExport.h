@@ -38,9 +38,11 @@ std::wstring BomTextLine(const std::vector<std::wstring>& cells);
 // their cells. Asks before overwriting and whether to open the result.
 // 1 when written; 0 with no current model, on a declined overwrite or when
 // the spreadsheet cannot start or the template is missing (both told under
-// "提示"). A failure of the spreadsheet itself throws workbook::Error, its
-// text naming the workbook's file.
+// "提示"). A failure of the spreadsheet itself, its save included, throws
+// workbook::Error, its text naming the workbook's file; a workbook saved
+// before is then as it was.
 int WriteBomExcel(const BomOutputTarget& target, const BomCheckedRows& rows);
 // The header line, then a line per row, each ending in "\r\n"; an existing
-// file is replaced without a question. Asks whether to open the result; 1.
+// file is replaced without a question, or kept whole when the write fails.
+// Asks whether to open the result; 1.
 int WriteBomText(const BomOutputTarget& target, const std::vector<ColInfo>& cols, const BomCheckedRows& rows);

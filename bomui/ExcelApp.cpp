@@ -1,10 +1,11 @@
 #include "ExcelApp.h"
 
 #include <exception>
-#include <fstream>
+#include <optional>
 
 #include "CodePage.h"
 #include "DebugOutput.h"
+#include "FileWrite.h"
 #include "Files.h"
 #include "Shell.h"
 
@@ -105,12 +106,15 @@ int ExcelApp::OpenFileInShell(const std::wstring& path) {
   return 1;
 }
 
+// Even an append rewrites the whole file, so that a failure leaves the file
+// as it was instead of holding part of the text.
 int ExcelApp::AppendLine(const std::wstring& path, const std::wstring& text, int create) {
-  std::ios::openmode mode = std::ios::out;
-  mode |= create || !FileAccessible(path) ? std::ios::trunc : std::ios::in;
-  std::ofstream out(platform::ResolvePath(path), mode);
-  if (!out) return 0;
-  out.seekp(0, std::ios::end);
-  out << platform::ToNarrow(text);
-  return 1;
+  std::string bytes;
+  if (!create && FileAccessible(path)) {
+    std::optional<std::string> old = platform::ReadFileBytes(path);
+    if (!old) return 0;
+    bytes = std::move(*old);
+  }
+  bytes += platform::ToNarrow(text);
+  return platform::WriteFileAtomically(path, bytes) ? 0 : 1;
 }

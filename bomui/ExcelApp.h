@@ -62,7 +62,8 @@ class ExcelApp {
   int OpenFileInShell(const std::wstring& path);
   // Writes `text` as given (line ends included) at the end of the file,
   // through the narrow code page. With `create`, or when the file is
-  // missing, the file is made anew. 0 when it cannot be opened.
+  // missing, the file is made anew. 0 when it cannot be written, and then the
+  // file is as it was.
   int AppendLine(const std::wstring& path, const std::wstring& text, int create);
 
  private:

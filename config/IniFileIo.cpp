@@ -1,7 +1,6 @@
 #include "IniFileIo.h"
 
-#include <fstream>
-
+#include "FileWrite.h"
 #include "Files.h"
 
 namespace config {
@@ -14,10 +13,7 @@ class DiskFiles final : public IniFileIo {
   }
 
   bool WriteAll(const std::wstring& path, const std::string& bytes) override {
-    std::ofstream out(platform::ResolvePath(path), std::ios::binary | std::ios::trunc);
-    out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    out.close();
-    return !out.fail();
+    return !platform::WriteFileAtomically(path, bytes);
   }
 };
 

@@ -13,7 +13,8 @@ class IniFileIo {
   virtual ~IniFileIo() = default;
   // The file's bytes; nullopt when it cannot be read, a missing file included.
   virtual std::optional<std::string> ReadAll(const std::wstring& path) = 0;
-  // Replaces the file's content, creating the file if needed; false on failure.
+  // Replaces the file's content, creating the file if needed; false on failure,
+  // and then the file is as it was.
   virtual bool WriteAll(const std::wstring& path, const std::string& bytes) = 0;
 };
 

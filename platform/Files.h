@@ -42,7 +42,8 @@ bool WildcardMatch(std::wstring_view pattern, std::wstring_view name);
 std::optional<std::string> ReadFileBytes(std::wstring_view path);
 
 // As the system's CopyFile: false when `from` is no readable file, or when
-// `to` exists and `failIfExists` is set; otherwise `to` is replaced.
+// `to` exists and `failIfExists` is set; otherwise `to` is replaced as
+// WriteFileAtomically replaces it.
 bool CopyFile(std::wstring_view from, std::wstring_view to, bool failIfExists);
 // As the system's CreateDirectory: one level; false when the directory
 // exists already or its parent does not.

@@ -2,13 +2,13 @@
 #include "TkFile.h"
 
 #include "CodePage.h"
+#include "FileWrite.h"
 #include "Files.h"
 #include "TextFile.h"
 #include "Trash.h"
 
 #include <algorithm>
 #include <cerrno>
-#include <cstdio>
 #include <optional>
 #include <string_view>
 
@@ -51,12 +51,11 @@ int CTkFile::ReadFileText(const std::wstring& path, std::wstring& text) const {
   return 1;
 }
 
+// The stored text is replaced whole or not at all: a failure leaves the old
+// one. The failure's number is the open's result; a refusal numbered 1 would
+// read as success and is given as a denied access, as the system reports it.
 int CTkFile::AppendToFile(const std::wstring& path, const std::wstring& text) const {
-  std::FILE* file = std::fopen(platform::ResolvePath(path).c_str(), "wb");
-  if (!file) return errno != 0 ? errno : -1;
-  std::string bytes = platform::ToNarrow(text);
-  std::fseek(file, 0, SEEK_END);
-  std::fwrite(bytes.data(), 1, bytes.size(), file);
-  std::fclose(file);
-  return 1;
+  std::error_code error = platform::WriteFileAtomically(path, platform::ToNarrow(text));
+  if (!error) return 1;
+  return error.value() == 1 ? EACCES : error.value();
 }

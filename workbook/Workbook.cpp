@@ -4,6 +4,7 @@
 #include <fstream>
 #include <iterator>
 
+#include "FileWrite.h"
 #include "XlsWorkbook.h"
 #include "XlsxWorkbook.h"
 
@@ -18,25 +19,9 @@ bool StartsWith(const Bytes& image, std::initializer_list<uint8_t> magic) {
 
 void Workbook::SaveAs(const std::filesystem::path& file) const {
   Bytes image = Save();
-  // Written beside the target and renamed over it, so that a failed write
-  // leaves neither a partial file nor a damaged old one.
-  std::filesystem::path partial = file;
-  partial += ".partial";
-  {
-    std::ofstream out(partial, std::ios::binary | std::ios::trunc);
-    out.write(reinterpret_cast<const char*>(image.data()), static_cast<std::streamsize>(image.size()));
-    out.close();
-    if (!out) {
-      std::error_code ignored;
-      std::filesystem::remove(partial, ignored);
-      throw Error("cannot write " + file.string());
-    }
-  }
-  std::error_code error;
-  std::filesystem::rename(partial, file, error);
-  if (error) {
-    std::filesystem::remove(partial, error);
-    throw Error("cannot write " + file.string());
+  std::string_view bytes(reinterpret_cast<const char*>(image.data()), image.size());
+  if (std::error_code error = platform::WriteFileAtomically(file, bytes)) {
+    throw Error("cannot write " + file.string() + ": " + error.message());
   }
 }
 

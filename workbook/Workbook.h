@@ -49,8 +49,9 @@ class Workbook {
 
   // The whole file as it would be saved.
   virtual Bytes Save() const = 0;
-  // Writes Save() to `file`, replacing it. Throws Error; on failure nothing
-  // is left at `file`.
+  // Writes Save() to `file`, replacing it whole or not at all. Throws Error,
+  // naming the file and why; an old file is then as it was, and no new one is
+  // left behind.
   void SaveAs(const std::filesystem::path& file) const;
 };
 

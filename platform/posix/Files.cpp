@@ -8,6 +8,7 @@
 #include <system_error>
 
 #include "CodePage.h"
+#include "FileWrite.h"
 
 namespace fs = std::filesystem;
 
@@ -132,7 +133,8 @@ bool CopyFile(std::wstring_view from, std::wstring_view to, bool failIfExists) {
   std::error_code ec;
   if (!fs::is_regular_file(source, ec)) return false;
   if (failIfExists && Exists(target)) return false;
-  return fs::copy_file(source, target, fs::copy_options::overwrite_existing, ec) && !ec;
+  std::optional<std::string> bytes = ReadFileBytes(from);
+  return bytes && !WriteFileAtomically(target, *bytes);
 }
 
 bool CreateDirectory(std::wstring_view path) {

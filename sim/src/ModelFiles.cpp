@@ -2,6 +2,7 @@
 
 #include "CodePage.h"
 #include "FileLookup.h"
+#include "FileWrite.h"
 #include "Files.h"
 #include "ModelDocument.h"
 #include "Text.h"
@@ -9,7 +10,6 @@
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
-#include <fstream>
 
 namespace sim {
 namespace {
@@ -55,9 +55,7 @@ int HighestVersionIn(const std::filesystem::path& dir, const Model& model) {
 }
 
 bool WriteModelFile(const std::filesystem::path& file, const std::string& text) {
-  std::ofstream out(file, std::ios::binary | std::ios::trunc);
-  out << text << '\n';
-  return static_cast<bool>(out.flush());
+  return !platform::WriteFileAtomically(file, text + '\n');
 }
 
 }  // namespace sim

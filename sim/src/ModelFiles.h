@@ -26,7 +26,8 @@ std::wstring VersionedFileName(const Model& model, int version);
 // The highest version of the model's file in `dir`, 0 for none.
 int HighestVersionIn(const std::filesystem::path& dir, const Model& model);
 
-// Replaces the file's content; false when it cannot be written.
+// Replaces the file whole or not at all; false when it cannot be written,
+// and then no new file is left and an old one is as it was.
 bool WriteModelFile(const std::filesystem::path& file, const std::string& text);
 
 }  // namespace sim

@@ -15,6 +15,7 @@
 #include "CfgOption.h"
 #include "CodePage.h"
 #include "DlgBomShow.h"
+#include "FileFaults.h"
 #include "HostControl.h"
 #include "IniEx.h"
 #include "ListCtrlEx.h"
@@ -73,6 +74,7 @@ class BomExportTest : public testing::Test {
     });
   }
   void TearDown() override {
+    platform::ClearFileFaults();
     dialog.reset();
     platform::SetMessageBoxHandler(previousBox_);
     platform::SetShellOpenHandler(previousShell_);
@@ -324,6 +326,67 @@ TEST_F(BomExportTest, TextHoldsTheHeaderAndTheCheckedRowsByteForByteAndOnlyTheHe
   Press(false, true);
   EXPECT_EQ(dir.Read("out/清单.txt"), "序号\t层级\t图号\t名称\t数量\t材料\t重量\t总重\t备注\t模型名称\t\r\n");
   EXPECT_FALSE(fs::exists(dir.path() / "out" / "Excel"));
+}
+
+// A workbook of an earlier output, left read-only (by a viewer or on
+// purpose): the save is refused with the workbook's name, the old workbook
+// stays as it was, the later text output is not made, and the dialog goes on
+// to write the next output once the file may be written.
+TEST_F(BomExportTest, ReadOnlyWorkbookIsToldAndKeptAndTheNextOutputSucceeds) {
+  Open();
+  dir.Write("out/Excel/清单.xls", "the workbook of yesterday");
+  const fs::perms readOnly = fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read;
+  fs::permissions(Workbook(), readOnly);
+  answerYes = true;
+  Press(true, true);
+
+  ASSERT_EQ(prompts.size(), 2u);
+  EXPECT_EQ(prompts[0], L"提示:文件：" + WorkbookPath() + L" 已经存在，是否覆盖？");
+  EXPECT_TRUE(prompts[1].starts_with(L"提示:")) << prompts[1];
+  EXPECT_NE(prompts[1].find(platform::ToWide(Workbook().string())), std::wstring::npos) << prompts[1];
+  EXPECT_EQ(dir.Read("out/Excel/清单.xls"), "the workbook of yesterday");
+  EXPECT_EQ(fs::status(Workbook()).permissions(), readOnly);
+  EXPECT_EQ(std::distance(fs::directory_iterator(Workbook().parent_path()), fs::directory_iterator()), 1);
+  EXPECT_FALSE(fs::exists(dir.path() / "out" / "清单.txt"));
+
+  fs::permissions(Workbook(), fs::perms::owner_write, fs::perm_options::add);
+  prompts.clear();
+  Press(true, false);
+  EXPECT_EQ(prompts.back(), L"提示:是否打开：" + WorkbookPath() + L" ？");
+  EXPECT_TRUE(PythonReaderProblems({Workbook(), {}, HeadCells()}, dir.path()).empty());
+}
+
+// Where chmod does not stop the writer (tests may run as root), the
+// directory is made read-only through the platform's fault seam.
+TEST_F(BomExportTest, ReadOnlyExcelDirectoryOrAFullDiskKeepsTheOldWorkbook) {
+  Open();
+  dir.Write("out/Excel/清单.xls", "the workbook of yesterday");
+  answerYes = true;
+  for (platform::FileFault fault :
+       {platform::FileFault{platform::FileFaultKind::kReadOnlyDirectory, Workbook().parent_path()},
+        platform::FileFault{platform::FileFaultKind::kDiskFull, Workbook(), 4096}}) {
+    SCOPED_TRACE(static_cast<int>(fault.kind));
+    platform::InjectFileFault(fault);
+    prompts.clear();
+    Press(true, false);
+    ASSERT_EQ(prompts.size(), 2u);
+    EXPECT_NE(prompts[1].find(platform::ToWide(Workbook().string())), std::wstring::npos) << prompts[1];
+    EXPECT_EQ(dir.Read("out/Excel/清单.xls"), "the workbook of yesterday");
+    EXPECT_EQ(std::distance(fs::directory_iterator(Workbook().parent_path()), fs::directory_iterator()), 1);
+    platform::ClearFileFaults();
+  }
+}
+
+// The text file cannot be written: no report, the old file whole, and the
+// question whether to open it still asked.
+TEST_F(BomExportTest, TextThatFillsTheDiskHalfWayLeavesTheOldText) {
+  Open();
+  dir.Write("out/清单.txt", "the list of yesterday\r\n");
+  platform::InjectFileFault({platform::FileFaultKind::kDiskFull, dir.path() / "out", 40});
+  Press(false, true);
+  EXPECT_EQ(dir.Read("out/清单.txt"), "the list of yesterday\r\n");
+  EXPECT_EQ(std::distance(fs::directory_iterator(dir.path() / "out"), fs::directory_iterator()), 1);
+  EXPECT_EQ(prompts, std::vector<std::wstring>{L"提示:是否打开：" + TextPath() + L" ？"});
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 
 #include "BiffStructure.h"
 #include "CodePage.h"
+#include "FileFaults.h"
 #include "ReadBack.h"
 #include "Shell.h"
 #include "TestDir.h"
@@ -17,6 +18,7 @@ const fs::path kTemplates = fs::path(BOM_STAGE_DIR) / "template";
 
 class ExcelAppTest : public testing::Test {
  protected:
+  void TearDown() override { platform::ClearFileFaults(); }
   std::wstring Wide(const fs::path& path) { return platform::ToWide(path.string()); }
   TestDir dir_;
 };
@@ -187,6 +189,16 @@ TEST_F(ExcelAppTest, AppendLineCreatesTruncatesOrAppends) {
   EXPECT_EQ(excel.AppendLine(file, L"new\r\n", 1), 1);
   EXPECT_EQ(dir_.Read("bom.txt"), "new\r\n");
   EXPECT_EQ(excel.AppendLine(dir_.Wide("no dir\\x.txt"), L"lost", 0), 0);
+}
+
+TEST_F(ExcelAppTest, AppendLineThatFillsTheDiskLeavesTheFileAsItWas) {
+  ExcelApp excel;
+  dir_.Write("bom.txt", "序号\t名称\t\r\n");
+  platform::InjectFileFault({platform::FileFaultKind::kDiskFull, dir_.path(), 12});
+  EXPECT_EQ(excel.AppendLine(dir_.Wide("bom.txt"), L"1\t轴\t\r\n", 0), 0);
+  EXPECT_EQ(excel.AppendLine(dir_.Wide("bom.txt"), L"a new header line\r\n", 1), 0);
+  EXPECT_EQ(dir_.Read("bom.txt"), "序号\t名称\t\r\n");
+  EXPECT_EQ(std::distance(fs::directory_iterator(dir_.path()), fs::directory_iterator()), 1);
 }
 
 }  // namespace
