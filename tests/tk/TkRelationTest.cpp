@@ -3,10 +3,13 @@
 // answers when the host refuses the lines or their regeneration fails.
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 #include "CallLog.h"
 #include "HostControl.h"
 #include "PluginHost.h"
 #include "ProParameter.h"
+#include "TkFile.h"
 #include "TkModel.h"
 #include "TkParam.h"
 #include "TkRelation.h"
@@ -114,4 +117,46 @@ TEST_F(TkRelationTest, ALineLongerThanTheBufferGoesToTheHostWhole) {
   std::wstring longComment = L"/* " + std::wstring(400, L'x');
   ASSERT_EQ(relation_.SetRelationLines(relset, {longComment, L"LENGTH = 2"}), 0);
   EXPECT_EQ(Lines(relset), (std::vector<std::wstring>{longComment, L"LENGTH = 2"}));
+}
+
+TEST_F(TkRelationTest, TheHostTakesEveryStoredCommonRelation) {
+  CTkFile file;
+  std::wstring store = file.GetAppDir() + L"Relation";
+  std::vector<std::wstring> names;
+  file.ListFiles(store, names);
+  ASSERT_GE(names.size(), 4u);
+  ProRelset relset = ModelSet(part_);
+  for (const std::wstring& name : names) {
+    std::vector<std::wstring> lines;
+    ASSERT_EQ(file.ReadLines(store + L"\\" + name, lines), 1);
+    EXPECT_EQ(relation_.SetRelationLines(relset, lines), 0) << name;
+    EXPECT_EQ(Lines(relset), lines) << name;
+  }
+}
+
+TEST_F(TkRelationTest, TheSamplesRelationsRegenerateToWhatItsModelsHold) {
+  ASSERT_EQ(sim::LoadSession(std::filesystem::path(BOM_SAMPLES_DIR) / "reducer"), PRO_TK_NO_ERROR);
+  ProMdl gear = sim::OpenModel(L"gear_1.prt");
+  ProRelset relset = ModelSet(gear);
+  std::vector<std::wstring> lines = Lines(relset);
+  EXPECT_EQ(lines.size(), 2u);
+  ASSERT_EQ(param_.SetMdlParamValue(gear, L"D", CTkParam::kDouble, L"1"), 0);
+  ASSERT_EQ(relation_.SetRelationLines(relset, lines), 0);
+  EXPECT_EQ(param_.GetMdlParamValue(gear, L"D", 1), L"190.0");
+
+  ProMdl bolt = sim::OpenModel(L"gb5782_m8x30.prt");
+  ASSERT_EQ(param_.SetMdlParamValue(bolt, L"L", CTkParam::kDouble, L"35"), 0);
+  ProRelset boltSet = ModelSet(bolt);
+  ASSERT_EQ(relation_.SetRelationLines(boltSet, Lines(boltSet)), 0);
+  EXPECT_EQ(param_.GetMdlParamValue(bolt, L"标记", 0), L"GB/T 5782 M8×35");
+
+  std::vector<TkModelAsmCmp> cmps;
+  CTkModel().GetAllComponent2(sim::OpenModel(L"reducer.asm"), cmps);
+  int withRelations = 0;
+  for (const TkModelAsmCmp& cmp : cmps) {
+    ProRelset cmpSet{};
+    ASSERT_EQ(relation_.GetItemRelset(cmp.feature, cmpSet), 0);
+    if (!Lines(cmpSet).empty()) ++withRelations;
+  }
+  EXPECT_EQ(withRelations, 1) << "one component relation in the whole tree";
 }
