@@ -145,7 +145,17 @@ class Parser {
     return true;
   }
 
+  // Every way back into the grammar passes here, so the depth bounds the
+  // recursion: deeper nesting than any relation needs is refused.
   bool Signed(Value& value) {
+    if (depth_ == kMaxDepth) return false;
+    ++depth_;
+    bool parsed = SignedAtDepth(value);
+    --depth_;
+    return parsed;
+  }
+
+  bool SignedAtDepth(Value& value) {
     if (Is(L"+") || Is(L"-")) {
       wchar_t op = token_.text[0];
       Advance();
@@ -256,9 +266,12 @@ class Parser {
     return std::isfinite(result);
   }
 
+  static constexpr int kMaxDepth = 200;
+
   Lexer lexer_;
   const Model* model_;
   Token token_;
+  int depth_ = 0;
 };
 
 std::wstring_view Trimmed(std::wstring_view line) {

@@ -129,6 +129,11 @@ TEST_F(SimRelations, LinesThatAreNoRelationAreRefusedAndTheSetStaysAsItWas) {
                                  L"r_1 = SQRT(ABS(-4))"};
   EXPECT_EQ(Set(relset, good), PRO_TK_NO_ERROR);
   EXPECT_EQ(Lines(relset), good);
+  // Nesting beyond what any relation needs is refused, not followed.
+  EXPECT_EQ(Set(relset, {L"D = " + std::wstring(100000, L'(') + L"1" + std::wstring(100000, L')')}),
+            PRO_TK_GENERAL_ERROR);
+  EXPECT_EQ(Set(relset, {L"D = " + std::wstring(100000, L'-') + L"1"}), PRO_TK_GENERAL_ERROR);
+  EXPECT_EQ(Set(relset, {L"D = " + std::wstring(50, L'(') + L"1" + std::wstring(50, L')')}), PRO_TK_NO_ERROR);
   EXPECT_EQ(Set(relset, {}), PRO_TK_NO_ERROR);
   EXPECT_TRUE(Lines(relset).empty()) << "no lines remove all relations";
   EXPECT_EQ(ProRelsetRelationsSet(&relset, nullptr, -1), PRO_TK_BAD_INPUTS);
