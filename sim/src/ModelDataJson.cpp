@@ -2,6 +2,7 @@
 
 #include "CodePage.h"
 #include "JsonError.h"
+#include "Text.h"
 
 #include <nlohmann/json.hpp>
 
@@ -101,7 +102,7 @@ void ReadMaterials(const json& doc, ModelDef& def) {
   if (doc.contains("material")) def.material = Wide(doc["material"]);
   if (def.material.empty()) return;
   auto current = std::find_if(def.materials.begin(), def.materials.end(),
-                              [&](const MaterialDef& held) { return held.name == def.material; });
+                              [&](const MaterialDef& held) { return SameNoCase(held.name, def.material); });
   if (current == def.materials.end()) current = def.materials.insert(def.materials.end(), {def.material, {}});
   if (!current->density) current->density = def.density;
 }
@@ -109,7 +110,7 @@ void ReadMaterials(const json& doc, ModelDef& def) {
 json WriteMaterials(const ModelDef& def) {
   json materials = json::array();
   for (const MaterialDef& held : def.materials) {
-    if (held.density && held.name != def.material)
+    if (held.density && !SameNoCase(held.name, def.material))
       materials.push_back({{"name", platform::ToNarrow(held.name)}, {"density", *held.density}});
     else
       materials.push_back(platform::ToNarrow(held.name));

@@ -126,6 +126,18 @@ TEST_F(SimMaterials, APartHoldsItsMaterialsAndNamesOneCurrent) {
   EXPECT_EQ(Current(top), L"<-18>");
 }
 
+TEST_F(SimMaterials, TheCurrentMaterialOfAFileIsHeldOnceWhateverItsCase) {
+  dir.Write("m/cr.prt",
+            ModelJson("part", R"("material": "40CR", "materials": ["40Cr"], "density": 7.87e-6)"));
+  dir.Write("m/only.prt", ModelJson("part", R"("material": "HT200", "density": 7.2e-6)"));
+  ProMdl cr = Load(dir.Wide("m/cr.prt"));
+  EXPECT_EQ(Held(cr), std::vector<std::wstring>{L"40Cr"});
+  ProMdl only = Load(dir.Wide("m/only.prt"));
+  EXPECT_EQ(Held(only), std::vector<std::wstring>{L"HT200"}) << "the current material is always held";
+  ASSERT_EQ(MakeCurrent(only, L"HT200"), PRO_TK_NO_ERROR);
+  EXPECT_DOUBLE_EQ(Density(only), 7.2e-6) << "with the part's density";
+}
+
 TEST_F(SimMaterials, DeletingTheCurrentMaterialLeavesThePartWithoutOne) {
   EXPECT_EQ(Delete(shaft, L"COPPER"), PRO_TK_E_NOT_FOUND);
   EXPECT_EQ(Delete(shaft, L"brass"), PRO_TK_NO_ERROR);
