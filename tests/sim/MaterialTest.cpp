@@ -206,6 +206,14 @@ TEST_F(SimMaterials, TheNewerFormComesFirstThenTheOlderAndAFileWithoutADensityIs
   EXPECT_EQ(Read(top, L"45"), PRO_TK_INVALID_TYPE);
 }
 
+TEST_F(SimMaterials, WithoutTheOptionMaterialFilesAreReadFromTheCurrentDirectory) {
+  dir.Write("work/ht200.mtl", MaterialFileText("HT200", "7.2e-09 tonne/mm^3"));
+  sim::StartHost({dir.path() / "work"});
+  bare = Load(dir.Wide("m/bare.prt"));
+  EXPECT_EQ(Read(bare, L"45"), PRO_TK_E_NOT_FOUND);
+  EXPECT_EQ(Read(bare, L"HT200"), PRO_TK_NO_ERROR);
+}
+
 TEST_F(SimMaterials, RereadingTheCurrentMaterialChangesThePartWithIt) {
   ASSERT_EQ(Read(bare, L"45"), PRO_TK_NO_ERROR);
   ASSERT_EQ(MakeCurrent(bare, L"45"), PRO_TK_NO_ERROR);

@@ -110,6 +110,11 @@ TEST_F(SimRelations, OnlySolidsAndComponentFeaturesHaveRelationSets) {
   ProModelitem stranger{PRO_PART, 1, &unknown};
   EXPECT_EQ(ProModelitemToRelset(&stranger, &relset), PRO_TK_BAD_INPUTS);
   EXPECT_EQ(ProModelitemToRelset(nullptr, &relset), PRO_TK_BAD_INPUTS);
+  ProRelset model = ModelRelset(gear);
+  ProWstring lines[2] = {};
+  ProWstring* notAnArray = lines;
+  EXPECT_EQ(ProRelsetRelationsGet(&model, &notAnArray), PRO_TK_BAD_INPUTS)
+      << "the caller allocates a host array";
 }
 
 TEST_F(SimRelations, LinesThatAreNoRelationAreRefusedAndTheSetStaysAsItWas) {
