@@ -62,7 +62,7 @@ PARAM_ROWS = [  # 属性名称, 属性类型, 参数类型, 属性值, 指定, �
     ("重量", "参数", "实数", "0", "否", "单件重量，千克"),
     # The value is the host's name of the unit system, which the check
     # compares exactly.
-    ("单位制", "系统单位", "字符串", "millimeter Newton Second (mmNs)", "否", "毫米牛顿秒"),
+    ("单位制", "系统单位", "字符串", "millimeter Kilogram Sec (mmKs)", "否", "毫米千克秒"),
 ]
 PARAM_TITLES = ["属性名称", "属性类型", "参数类型", "属性值", "指定", "说明"]
 

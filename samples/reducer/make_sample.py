@@ -6,7 +6,8 @@ and the standard parts under std/.
 Each part is described by simple solids (plates, stepped cylinders, rings);
 its surfaces, volume, centre of gravity and inertia follow from them, so
 that masses and outline sizes stay consistent with the drawings' numbers.
-Lengths are millimetres, densities kg/mm^3, masses kg, inertia kg*mm^2.
+Lengths are millimetres, densities kg/mm^3, masses kg, inertia kg*mm^2: the
+parts and assemblies say so with their principal unit system (mmKs).
 
 Run it again after changing the machine:  python3 make_sample.py
 """
@@ -17,6 +18,8 @@ import pathlib
 
 SESSION_DIR = pathlib.Path(__file__).resolve().parent
 STD_DIR = "std"
+MATERIALS_DIR = "materials"
+UNIT_SYSTEM = "millimeter Kilogram Sec (mmKs)"
 
 DENSITY = {
     "HT200": 7.2e-6,
@@ -195,15 +198,16 @@ def numbered(features):
 
 
 def part(drawing_no, name, remark, solids, grade, assigned=True, purchased=False,
-         common_name=None, features=(), checker="李强", units=None):
+         common_name=None, features=(), parameters=(), relations=(), checker="李强", units=None):
     """A part file's contents. A manufactured part has its material assigned,
     its mass comes from the host's mass properties, and it names its designer
     and its checker (none when not yet checked); a standard part only names
-    its grade, so the host takes density times volume. `units` is a principal
-    unit system other than the host's standard one."""
+    its grade, so the host takes density times volume. Further parameters
+    follow the common ones; relations are the part's own. `units` is a
+    principal unit system other than the sample's."""
     density = DENSITY[grade]
     properties, mass = mass_data(solids, density, with_mass=assigned)
-    parameters = [
+    common = [
         text("图号", drawing_no, description="图样代号", designated=True),
         text("名称", name, description="零件名称", designated=True),
         text("材料", grade, description="材料牌号", designated=True),
@@ -213,7 +217,11 @@ def part(drawing_no, name, remark, solids, grade, assigned=True, purchased=False
          "description": "单件重量"},
         {"name": "外购", "type": "boolean", "value": purchased},
     ]
-    model = {"type": "part", "commonName": common_name or name, "parameters": parameters}
+    parameters = common + list(parameters)
+    model = {"type": "part", "commonName": common_name or name, "principalUnitSystem": UNIT_SYSTEM,
+             "parameters": parameters}
+    if relations:
+        model["relations"] = list(relations)
     if assigned:
         parameters.append(text("设计", "张伟", description="设计者"))
         if checker:
@@ -230,9 +238,13 @@ def part(drawing_no, name, remark, solids, grade, assigned=True, purchased=False
     return model
 
 
-def standard_part(standard, name, remark, solids, grade, common_name):
+def standard_part(standard, name, remark, solids, grade, common_name, parameters=(), relations=()):
     return part(standard, name, remark, solids, grade, assigned=False, purchased=True,
-                common_name=common_name)
+                common_name=common_name, parameters=parameters, relations=relations)
+
+
+def length(name, value, description):
+    return {"name": name, "type": "double", "value": float(value), "unit": "mm", "description": description}
 
 
 def move(x=0.0, y=0.0, z=0.0, rows=((1, 0, 0), (0, 1, 0), (0, 0, 1))):
@@ -264,6 +276,7 @@ def assembly(drawing_no, name, remark, tree):
     return {
         "type": "assembly",
         "commonName": name,
+        "principalUnitSystem": UNIT_SYSTEM,
         "parameters": [
             text("图号", drawing_no, description="图样代号", designated=True),
             text("名称", name, description="部件名称", designated=True),
@@ -309,11 +322,16 @@ SEAL_28 = "gb13871_28x47x7.prt"
 SEAL_38 = "gb13871_38x58x8.prt"
 
 
+# The bolt's designation follows its nominal diameter and length.
+BOLT_PARAMETERS = [length("D", 8, "公称直径"), length("L", 30, "公称长度"), text("标记", "GB/T 5782 M8×30")]
+BOLT_RELATIONS = ["/* 螺栓标记 GB/T 5782 M d×l", '标记 = "GB/T 5782 M" + ITOS(D) + "×" + ITOS(L)']
+
+
 def standard_parts():
     bolt = [hexagon_z(13, 0, 0, 5.3), ring(8, 0, -30, 0, axis="z")]
     return {
         BOLT: standard_part("GB/T 5782-2016", "六角头螺栓 M8×30", "8.8级", bolt, "35",
-                            "螺栓 M8×30"),
+                            "螺栓 M8×30", parameters=BOLT_PARAMETERS, relations=BOLT_RELATIONS),
         NUT: standard_part("GB/T 6170-2015", "1型六角螺母 M8", "8级",
                            [hexagon_z(13, 8, -6.8, 0)], "35", "螺母 M8"),
         WASHER: standard_part("GB/T 97.1-2002", "平垫圈 8", "200HV",
@@ -371,11 +389,16 @@ def output_shaft():
     return shaft("JSQ-03-001", "输出轴", "调质 HB217-255", steps, "45", 2)
 
 
-def gear(drawing_no, name, remark, tip, rim_inner, hub, bore, width, web):
+def gear(drawing_no, name, remark, module, teeth, tip, rim_inner, hub, bore, width, web):
+    """A gear whose pitch diameter follows its module and tooth count by a
+    relation."""
     features = [{"type": "REVOLVE", "name": "轮坯"}, {"type": "CUT", "name": "齿形"},
                 {"type": "CUT", "name": "键槽"}]
+    parameters = [length("M", module, "模数"), {"name": "Z", "type": "integer", "value": teeth, "description": "齿数"},
+                  length("D", module * teeth, "分度圆直径")]
+    relations = ["/* 分度圆直径 d = m z", "D = M * Z"]
     return part(drawing_no, name, remark, gear_blank(tip, rim_inner, hub, bore, width, web), "45",
-                features=features)
+                features=features, parameters=parameters, relations=relations)
 
 
 def skeleton():
@@ -452,9 +475,15 @@ def reducers():
     nuts = [(NUT, move(x, y, -FLANGE - 1.6)) for x, y in FLANGE_BOLTS]
     closed = base + [("cover.prt", move()), {"type": "CSYS", "name": "CS_BOLTS"}]
     closed += bolts + [spare_bolt] + washers + nuts
+    complete = assembly("JSQ-00-000", "二级圆柱齿轮减速器", "i=14.5", closed)
+    # A relation of the intermediate shaft's component: the stage-one centre
+    # distance from the gear pair it carries.
+    complete["parameters"].append(length("A_HIGH", 120, "高速级中心距"))
+    mid = next(c for c in complete["components"] if c["model"] == "mid_shaft_asm.asm")
+    mid["relations"] = ["/* 高速级中心距 a = m (z1 + z2) / 2", "A_HIGH = 2 * (25 + 95) / 2"]
     return {
         "reducer.asm.1": assembly("JSQ-00-000", "二级圆柱齿轮减速器", "", base),
-        "reducer.asm.2": assembly("JSQ-00-000", "二级圆柱齿轮减速器", "i=14.5", closed),
+        "reducer.asm.2": complete,
     }
 
 
@@ -470,12 +499,12 @@ def models():
         "input_shaft.prt.2": input_shaft("调质 HB241-286，齿面淬火"),
         "mid_shaft.prt.1": mid_shaft(),
         "output_shaft.prt.1": output_shaft(),
-        "gear_1.prt.1": gear("JSQ-02-002", "中间轴大齿轮", "m=2 z=95", 194, 164, 64, 38, 45, 12),
-        "gear_2.prt.1": gear("JSQ-03-002", "大齿轮", "m=3 z=84", 258, 228, 80, 48, 55, 15),
-        "gear_2.prt.2": gear("JSQ-03-002", "大齿轮", "m=3 z=84 调质", 258, 228, 80, 48, 55, 15),
+        "gear_1.prt.1": gear("JSQ-02-002", "中间轴大齿轮", "m=2 z=95", 2, 95, 194, 164, 64, 38, 45, 12),
+        "gear_2.prt.1": gear("JSQ-03-002", "大齿轮", "m=3 z=84", 3, 84, 258, 228, 80, 48, 55, 15),
+        "gear_2.prt.2": gear("JSQ-03-002", "大齿轮", "m=3 z=84 调质", 3, 84, 258, 228, 80, 48, 55, 15),
         "oil_ring.prt.1": part("JSQ-01-002", "挡油环", "", [ring(56, 36, -4, 4)], "Q235"),
         "end_cap.prt.1": part("JSQ-02-101", "闷盖", "", [ring(110, 0, -10, 0), ring(62, 0, 0, 8)],
-                              "HT150", units="millimeter Kilogram Sec (mmKs)"),
+                              "HT150", units="millimeter Newton Second (mmNs)"),
         "reducer.drw.1": drawing("JSQ-00-000", "二级圆柱齿轮减速器装配图", ["reducer.asm"], ["A2"]),
         "output_shaft.drw.1": drawing("JSQ-03-001", "输出轴", ["output_shaft.prt"]),
         "output_shaft.drw.2": drawing("JSQ-03-001", "输出轴零件图", ["output_shaft.prt"]),
@@ -490,6 +519,7 @@ SESSION = {
     "open": ["reducer.asm", "reducer.drw", "output_shaft.drw"],
     "current": "reducer.asm",
     "searchPath": [STD_DIR],
+    "configOptions": {"pro_material_dir": MATERIALS_DIR},
 }
 
 

@@ -4,7 +4,9 @@
 #include "BomTestSupport.h"
 #include "CodePage.h"
 #include "CommaLocale.h"
+#include "HostControl.h"
 #include "SelectionBuffer.h"
+#include "TkMaterial.h"
 
 namespace {
 
@@ -105,6 +107,20 @@ TEST_F(BomAttributes, MassOfAMaterialPartComesFromTheHostAndOtherwiseFromDensity
       AssemblyOf(L"top.asm", std::vector<sim::ComponentDef>{{1, L"steel.prt"}, Suppressed(2, L"bare.prt")});
   EXPECT_EQ(bom_.GetMdlMass(top, mass), 0);
   EXPECT_DOUBLE_EQ(mass, 7.5078);
+}
+
+TEST_F(BomAttributes, AssigningSteel45ToASamplePartChangesItsUnitMassInKilograms) {
+  ASSERT_EQ(sim::LoadSession(std::filesystem::path(BOM_SAMPLES_DIR) / "reducer"), PRO_TK_NO_ERROR);
+  ProMdl cover = sim::OpenModel(L"cover.prt");
+  ASSERT_NE(cover, nullptr);
+  double grey = 0;
+  ASSERT_EQ(bom_.GetMdlMass(cover, grey), 0);
+  EXPECT_NEAR(grey, 17.82, 0.01) << "HT200 as the sample gives it";
+  // The session's material directory is its own materials/, 45 steel 7.85 g/cm^3.
+  ASSERT_EQ(CTkMaterial().AssignMaterial(cover, L"45"), 0);
+  double steel = 0;
+  ASSERT_EQ(bom_.GetMdlMass(cover, steel), 0);
+  EXPECT_NEAR(steel, grey * 7.85 / 7.2, 0.01);
 }
 
 TEST_F(BomAttributes, HighlightSelectsAtMost52OccurrencesInTheirParentsContext) {

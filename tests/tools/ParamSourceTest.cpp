@@ -160,7 +160,7 @@ TEST_F(ParamSourceTest, DeliveredTemplatesHoldTheSameAttributes) {
   ASSERT_EQ(fromCsv.size(), 7u);
   EXPECT_EQ(Lines(fromCsv), Lines(fromWorkbook));
   EXPECT_EQ(Lines(fromCsv).back(),
-            L"单位制|系统单位:2|字符串:51|millimeter Newton Second (mmNs)|否:0|毫米牛顿秒");
+            L"单位制|系统单位:2|字符串:51|millimeter Kilogram Sec (mmKs)|否:0|毫米千克秒");
 }
 
 // A Params.csv as users save it on Chinese Windows, and as delivered.
