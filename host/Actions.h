@@ -16,3 +16,11 @@ int ShowBomList(uiCmdCmdId, uiCmdValue*, void*);
 // The column table and the template of the BOM list, in a modal dialog that
 // the command waits for. Nothing opens in a headless host.
 int ShowBomSet(uiCmdCmdId, uiCmdValue*, void*);
+
+// "参数批量检查", made anew at each command as the BOM list is. Nothing
+// opens in a headless host.
+int ShowParamsSet(uiCmdCmdId, uiCmdValue*, void*);
+
+// "参数合并" on the current model, in a modal dialog that the command waits
+// for. Nothing opens in a headless host.
+int ShowParamMerge(uiCmdCmdId, uiCmdValue*, void*);

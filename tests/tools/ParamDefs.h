@@ -1,0 +1,31 @@
+// Parameters of models made in code for the parameter tools' tests.
+#pragma once
+
+#include <string>
+
+#include "ModelDef.h"
+
+inline sim::ParameterDef TextParam(const std::wstring& name, const std::wstring& text) {
+  sim::ParameterDef param;
+  param.name = name;
+  param.text = text;
+  return param;
+}
+
+inline sim::ParameterDef RealParam(const std::wstring& name, double number) {
+  sim::ParameterDef param;
+  param.name = name;
+  param.type = PRO_PARAM_DOUBLE;
+  param.number = number;
+  return param;
+}
+
+// An integer, or with `type` PRO_PARAM_BOOLEAN a boolean.
+inline sim::ParameterDef IntParam(const std::wstring& name, int integer,
+                                  ProParamvalueType type = PRO_PARAM_INTEGER) {
+  sim::ParameterDef param;
+  param.name = name;
+  param.type = type;
+  param.integer = integer;
+  return param;
+}
