@@ -43,6 +43,8 @@ TEST(ParamMergeOrder, RowNumbersHaveTwoDigitsAtLeast) {
   EXPECT_EQ(RowNumberText(0), L"01");
   EXPECT_EQ(RowNumberText(9), L"10");
   EXPECT_EQ(RowNumberText(99), L"100");
+  EXPECT_EQ(RowNumberText(0, 3), L"001");
+  EXPECT_EQ(RowNumberText(999, 3), L"1000");
 }
 
 class JoinParamValuesTest : public testing::Test {
