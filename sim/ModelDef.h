@@ -22,6 +22,14 @@ struct ComponentDef {
   std::wstring model;  // file name without version, such as L"bolt_m8.prt"
   Transform transform = kIdentity;
   bool suppressed = false;
+  std::vector<std::wstring> relations{};  // of the component feature, one line each
+};
+
+// A material a part holds; its density is in the part's units, unknown for
+// a material named in a file without one.
+struct MaterialDef {
+  std::wstring name;
+  std::optional<double> density{};
 };
 
 struct FeatureDef {
@@ -110,6 +118,9 @@ struct ModelDef {
   std::vector<FeatureDef> features;      // features that are not components
   std::vector<std::wstring> solids;      // drawings: file names of the models shown
   std::vector<ParameterDef> parameters;  // in the host's visit order
+  std::vector<std::wstring> relations;   // one line each
+  std::vector<MaterialDef> materials;    // parts
+  std::wstring material;                 // parts: the current one of `materials`; empty: none
   std::optional<double> density;         // parts
   std::optional<MassPropertiesDef> massProperties;
   std::vector<SurfaceDef> surfaces;

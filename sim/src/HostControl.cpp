@@ -54,7 +54,8 @@ ProError LoadSession(const std::filesystem::path& dir, std::string& error) {
   for (const std::wstring& entry : session.searchPath) {
     state.searchPath.push_back(NormalDir(state.sessionDir / platform::NativePath(entry)));
   }
-  for (const auto& [name, value] : session.configOptions) state.configOptions[LowerCase(name)] = value;
+  for (const auto& [name, value] : session.configOptions)
+    state.configOptions[LowerCase(name)] = SessionOptionValue(name, value, state.sessionDir);
 
   ProError first = PRO_TK_NO_ERROR;
   Loader loader(host);

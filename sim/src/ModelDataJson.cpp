@@ -87,7 +87,49 @@ MassPropertiesDef ReadMassProperties(const json& entry) {
   return properties;
 }
 
+// A held material is its name, or {name, density} for one that is not the
+// current material: the current one's density is the part's.
+MaterialDef ReadMaterial(const json& entry) {
+  if (entry.is_string()) return {Wide(entry), std::nullopt};
+  MaterialDef material{Wide(entry.at("name")), std::nullopt};
+  if (entry.contains("density")) material.density = entry["density"].get<double>();
+  return material;
+}
+
+void ReadMaterials(const json& doc, ModelDef& def) {
+  for (const json& entry : ListAt(doc, "materials")) def.materials.push_back(ReadMaterial(entry));
+  if (doc.contains("material")) def.material = Wide(doc["material"]);
+  if (def.material.empty()) return;
+  auto current = std::find_if(def.materials.begin(), def.materials.end(),
+                              [&](const MaterialDef& held) { return held.name == def.material; });
+  if (current == def.materials.end()) current = def.materials.insert(def.materials.end(), {def.material, {}});
+  if (!current->density) current->density = def.density;
+}
+
+json WriteMaterials(const ModelDef& def) {
+  json materials = json::array();
+  for (const MaterialDef& held : def.materials) {
+    if (held.density && held.name != def.material)
+      materials.push_back({{"name", platform::ToNarrow(held.name)}, {"density", *held.density}});
+    else
+      materials.push_back(platform::ToNarrow(held.name));
+  }
+  return materials;
+}
+
 }  // namespace
+
+std::vector<std::wstring> ReadLines(const json& list) {
+  std::vector<std::wstring> lines;
+  for (const json& line : list) lines.push_back(Wide(line));
+  return lines;
+}
+
+json WriteLines(const std::vector<std::wstring>& lines) {
+  json list = json::array();
+  for (const std::wstring& line : lines) list.push_back(platform::ToNarrow(line));
+  return list;
+}
 
 void ReadModelData(const json& doc, ModelDef& def) {
   const json& parameters = ListAt(doc, "parameters");
@@ -98,7 +140,9 @@ void ReadModelData(const json& doc, ModelDef& def) {
       throw KeyError("/parameters/" + std::to_string(i) + "/type", unknown.what());
     }
   }
+  def.relations = ReadLines(ListAt(doc, "relations"));
   if (doc.contains("density")) def.density = doc["density"].get<double>();
+  ReadMaterials(doc, def);
   if (doc.contains("massProperties")) def.massProperties = ReadMassProperties(doc["massProperties"]);
   for (const json& entry : ListAt(doc, "surfaces")) {
     def.surfaces.push_back(
@@ -111,6 +155,9 @@ void WriteModelData(const ModelDef& def, json& doc) {
     json& parameters = doc["parameters"] = json::array();
     for (const ParameterDef& parameter : def.parameters) parameters.push_back(WriteParameter(parameter));
   }
+  if (!def.relations.empty()) doc["relations"] = WriteLines(def.relations);
+  if (!def.materials.empty()) doc["materials"] = WriteMaterials(def);
+  if (!def.material.empty()) doc["material"] = platform::ToNarrow(def.material);
   if (def.density) doc["density"] = *def.density;
   if (def.massProperties) {
     const MassPropertiesDef& properties = *def.massProperties;

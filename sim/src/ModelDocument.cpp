@@ -40,6 +40,7 @@ ModelDef ParseDef(const json& doc) {
     ComponentDef component{entry.at("id").get<int>(), Wide(entry.at("model"))};
     if (entry.contains("transform")) component.transform = entry["transform"].get<Transform>();
     component.suppressed = entry.value("suppressed", false);
+    if (entry.contains("relations")) component.relations = ReadLines(entry["relations"]);
     def.components.push_back(std::move(component));
   }
   for (const json& entry : ListAt(doc, "features")) {
@@ -77,10 +78,11 @@ std::string ModelDocument(const ModelDef& def) {
   if (!def.components.empty()) {
     json& components = doc["components"] = json::array();
     for (const ComponentDef& component : def.components) {
-      components.push_back({{"id", component.id},
-                            {"model", platform::ToNarrow(component.model)},
-                            {"transform", component.transform},
-                            {"suppressed", component.suppressed}});
+      json& entry = components.emplace_back(json{{"id", component.id},
+                                                 {"model", platform::ToNarrow(component.model)},
+                                                 {"transform", component.transform},
+                                                 {"suppressed", component.suppressed}});
+      if (!component.relations.empty()) entry["relations"] = WriteLines(component.relations);
     }
   }
   if (!def.features.empty()) {

@@ -28,7 +28,7 @@ std::string SavedDocument(const Model& model) {
   json current = json::parse(ModelDocument(model.def));
   // Keys the definition writes only when set would otherwise survive a change
   // that cleared them.
-  if (model.def.commonName.empty()) doc.erase("commonName");
+  for (const char* key : {"commonName", "relations", "materials", "material"}) doc.erase(key);
   for (const auto& [key, value] : current.items()) doc[key] = value;
   return doc.dump(2);
 }

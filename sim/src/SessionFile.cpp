@@ -2,7 +2,9 @@
 
 #include "CodePage.h"
 #include "FileLookup.h"
+#include "Files.h"
 #include "JsonError.h"
+#include "Text.h"
 
 #include <nlohmann/json.hpp>
 
@@ -50,6 +52,15 @@ ProError ReadSessionFile(const std::filesystem::path& file, SessionFile& session
     return PRO_TK_INVALID_FILE;
   }
   return PRO_TK_NO_ERROR;
+}
+
+std::wstring SessionOptionValue(const std::wstring& name, const std::wstring& value,
+                                const std::filesystem::path& sessionDir) {
+  std::wstring lower = LowerCase(name);
+  bool isPath = lower.ends_with(L"_dir") || lower.ends_with(L"_file");
+  std::filesystem::path path = platform::NativePath(value);
+  if (!isPath || value.empty() || !path.is_relative()) return value;
+  return WideText(NormalDir(sessionDir / path));
 }
 
 }  // namespace sim

@@ -22,4 +22,11 @@ struct SessionFile {
 // `error` then says what is wrong and where.
 ProError ReadSessionFile(const std::filesystem::path& file, SessionFile& session, std::string& error);
 
+// A configuration option as the session gives it to the host: the value of
+// an option of a directory or a file (its name ends in "_dir" or "_file")
+// made absolute from the session directory, so that a session can be moved;
+// any other value as it stands.
+std::wstring SessionOptionValue(const std::wstring& name, const std::wstring& value,
+                                const std::filesystem::path& sessionDir);
+
 }  // namespace sim

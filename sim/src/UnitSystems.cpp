@@ -26,11 +26,11 @@ struct Unit {
   double size;  // in mm or kg
 };
 
-constexpr Unit kUnits[] = {{L"mm", Dimension::kLength, 1},        {L"cm", Dimension::kLength, 10},
-                           {L"m", Dimension::kLength, 1000},      {L"in", Dimension::kLength, 25.4},
-                           {L"ft", Dimension::kLength, 304.8},    {L"g", Dimension::kMass, 0.001},
-                           {L"kg", Dimension::kMass, 1},          {L"tonne", Dimension::kMass, 1000},
-                           {L"lbm", Dimension::kMass, 0.45359237}};
+constexpr Unit kUnits[] = {{L"mm", Dimension::kLength, 1},     {L"cm", Dimension::kLength, 10},
+                           {L"dm", Dimension::kLength, 100},   {L"m", Dimension::kLength, 1000},
+                           {L"in", Dimension::kLength, 25.4},  {L"ft", Dimension::kLength, 304.8},
+                           {L"g", Dimension::kMass, 0.001},    {L"kg", Dimension::kMass, 1},
+                           {L"tonne", Dimension::kMass, 1000}, {L"lbm", Dimension::kMass, 0.45359237}};
 
 // Length and mass units of the standard systems.
 struct SystemUnits {
@@ -70,14 +70,35 @@ std::wstring PrincipalUnitSystem(const Model& model) {
   return standard || systems.empty() ? kStandardPrincipal : systems.front();
 }
 
-double InPrincipalUnits(const Model& model, double value, const std::wstring& unit) {
+namespace {
+
+// How many of the principal system's units of its dimension make one `unit`.
+std::optional<double> PrincipalUnitsPer(const Model& model, const std::wstring& unit, Dimension dimension) {
   std::optional<Unit> from = FindUnit(unit);
   std::wstring system = PrincipalUnitSystem(model);
   auto units = std::find_if(std::begin(kSystemUnits), std::end(kSystemUnits),
                             [&](const SystemUnits& entry) { return system == entry.system; });
-  if (!from || units == std::end(kSystemUnits)) return value;
-  std::optional<Unit> to = FindUnit(from->dimension == Dimension::kLength ? units->length : units->mass);
-  return value * from->size / to->size;
+  if (!from || from->dimension != dimension || units == std::end(kSystemUnits)) return std::nullopt;
+  std::optional<Unit> to = FindUnit(dimension == Dimension::kLength ? units->length : units->mass);
+  return from->size / to->size;
+}
+
+}  // namespace
+
+double InPrincipalUnits(const Model& model, double value, const std::wstring& unit) {
+  std::optional<Unit> from = FindUnit(unit);
+  if (!from) return value;
+  return value * PrincipalUnitsPer(model, unit, from->dimension).value_or(1.0);
+}
+
+std::optional<double> DensityInPrincipalUnits(const Model& model, double value, const std::wstring& unit) {
+  size_t slash = unit.find(L'/');
+  if (slash == std::wstring::npos || !unit.ends_with(L"^3")) return std::nullopt;
+  std::optional<double> mass = PrincipalUnitsPer(model, unit.substr(0, slash), Dimension::kMass);
+  std::optional<double> length =
+      PrincipalUnitsPer(model, unit.substr(slash + 1, unit.size() - slash - 3), Dimension::kLength);
+  if (!mass || !length) return std::nullopt;
+  return value * *mass / (*length * *length * *length);
 }
 
 }  // namespace sim

@@ -5,6 +5,7 @@
 
 #include "Model.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -16,5 +17,9 @@ std::wstring PrincipalUnitSystem(const Model& model);
 // A value given in `unit` in the unit of the same dimension of the model's
 // principal system; unchanged when either is a unit not known here.
 double InPrincipalUnits(const Model& model, double value, const std::wstring& unit);
+// A density given in `unit`, a mass unit over a cubed length unit such as
+// "tonne/mm^3", in the principal system's mass over its length cubed;
+// nullopt for a unit of another form or one not known here.
+std::optional<double> DensityInPrincipalUnits(const Model& model, double value, const std::wstring& unit);
 
 }  // namespace sim
