@@ -27,6 +27,7 @@
 #include "DlgFilter.h"
 #include "DlgLoad.h"
 #include "HostControl.h"
+#include "WidgetSteps.h"
 #include "CallHold.h"
 #include "CallLog.h"
 #include "Inspection.h"
@@ -129,36 +130,9 @@ class DlgBomShowTest : public testing::Test {
     return list->visualRect(list->model()->index(row, col)).center();
   }
 
-  // Runs `step` on the next popup or modal window of type T, once it shows.
-  template <typename T>
-  void WhenShown(std::function<void(T*)> step) {
-    auto* poll = new QTimer;
-    QObject::connect(poll, &QTimer::timeout, [poll, step] {
-      QWidget* top = QApplication::activePopupWidget();
-      if (!top) top = QApplication::activeModalWidget();
-      auto* widget = dynamic_cast<T*>(top);
-      if (!widget) return;
-      poll->stop();
-      poll->deleteLater();
-      step(widget);
-    });
-    poll->start(5);
-  }
   // Right-clicks a row and chooses the context menu entry `text`.
-  void ChooseFromMenu(int row, const QString& text) {
-    WhenShown<QMenu>([text](QMenu* menu) {
-      for (QAction* action : menu->actions()) {
-        if (action->text() == text) {
-          menu->close();
-          action->trigger();
-          return;
-        }
-      }
-      ADD_FAILURE() << "no entry " << text.toStdString();
-      menu->close();
-    });
-    QTest::mouseClick(list->viewport(), Qt::RightButton, {}, CellCenter(row, 0));
-  }
+  void ChooseFromMenu(int row, const QString& text) { ::ChooseFromMenu(list, CellCenter(row, 0), text); }
+
   void RunInListFilter(int columnIndex, bool include, const std::set<std::wstring>& checked) {
     WhenShown<CDlgFilter>([=](CDlgFilter* filter) {
       filter->findChild<QComboBox*>("ModeCombo")->setCurrentIndex(include ? 0 : 1);
