@@ -10,7 +10,6 @@
 #include <QRadioButton>
 #include <QTest>
 #include <QTextEdit>
-#include <QTimer>
 
 #include <deque>
 #include <filesystem>
@@ -28,6 +27,7 @@
 #include "ProToolkitDll.h"
 #include "TkModel.h"
 #include "TkRelation.h"
+#include "WidgetSteps.h"
 
 namespace {
 
@@ -326,20 +326,15 @@ TEST_F(DlgRelationTest, ANewNameIsRefusedInAnyCaseAndStoredInUpperCase) {
   editor->setPlainText("M = 2");
   std::deque<std::wstring> typed{L"Gear", L"bolt"};
   std::vector<std::wstring> shown;
-  std::function<void()> answerNext = [&] {
-    auto* nameDlg = dynamic_cast<CDlgRelName*>(QApplication::activeModalWidget());
-    if (!nameDlg) {
-      QTimer::singleShot(10, answerNext);
-      return;
-    }
+  std::function<void(CDlgRelName*)> answer = [&](CDlgRelName* nameDlg) {
     auto* edit = nameDlg->findChild<QLineEdit*>("NameEdit");
     shown.push_back(edit->text().toStdWString());
     edit->setText(QString::fromStdWString(typed.front()));
     typed.pop_front();
+    if (!typed.empty()) WhenShown<CDlgRelName>(answer);
     nameDlg->findChild<QPushButton*>("OkButton")->click();
-    if (!typed.empty()) QTimer::singleShot(10, answerNext);
   };
-  QTimer::singleShot(0, answerNext);
+  WhenShown<CDlgRelName>(answer);
   Click("NewRelationButton");
   EXPECT_EQ(shown, (Lines{L"", L"Gear"}));
   EXPECT_EQ(boxes, (Lines{L"提示:该关系式名称已存在, 请重新输入", L"提示:新增常用关系成功"}));
