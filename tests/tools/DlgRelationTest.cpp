@@ -281,11 +281,45 @@ TEST_F(DlgRelationTest, AModelSourceShowsItsRelationsOrSaysWhyNot) {
   EXPECT_EQ(boxes, Lines{L"提示:无法加载missing.prt"});
 }
 
-TEST_F(DlgRelationTest, EditingAModelNeedsAPath) {
+TEST_F(DlgRelationTest, EditingAModelNeedsAPathAndOpensItsWindow) {
   option.SetRadioParams(1);
   Open();
   Click("EditMdlButton");
   EXPECT_EQ(boxes, Lines{L"提示:模型路径不能为空!"});
+  sim::PushAnswer("ProFileMdlfiletypeOpen", L"shaft.prt");
+  Click("MdlPathButton");
+  Click("EditMdlButton");
+  std::vector<sim::WindowInfo> windows = sim::Windows();
+  EXPECT_TRUE(std::ranges::any_of(windows, [](const sim::WindowInfo& window) {
+    return window.id != 0 && window.model == sim::OpenModel(L"shaft.prt");
+  }));
+}
+
+TEST_F(DlgRelationTest, WithoutACurrentModelComponentWritesFindNothing) {
+  host.MakeCurrent(nullptr);
+  Open();
+  Click("RadioSessionMdl");
+  ASSERT_EQ(list->GetItemCount(), 3);
+  Click("RadioCmpRelation");
+  Write("OverwriteButton", L"X = 2");
+  EXPECT_EQ(Messages(), Lines{});
+  EXPECT_EQ(CmpRelations()[0], Lines{L"X = 1"});
+}
+
+TEST_F(DlgRelationTest, WideningMovesTheRightButtonsAndStretchesTheTextOnly) {
+  Open();
+  auto* names = Child<QListWidget>("NameList");
+  QRect editorBefore = editor->geometry();
+  QRect namesBefore = names->geometry();
+  QRect saveBefore = Child("SaveRelationButton")->geometry();
+  QRect addBefore = Child("AddButton")->geometry();
+  QRect listBefore = list->geometry();
+  dialog->resize(dialog->width() + 100, dialog->height() + 40);
+  EXPECT_EQ(editor->geometry(), editorBefore.adjusted(0, 0, 100, 0));
+  EXPECT_EQ(names->geometry(), namesBefore);
+  EXPECT_EQ(Child("SaveRelationButton")->geometry(), saveBefore.translated(100, 0));
+  EXPECT_EQ(Child("AddButton")->geometry(), addBefore.translated(0, 40));
+  EXPECT_EQ(list->geometry(), listBefore.adjusted(0, 0, 100, 40));
 }
 
 TEST_F(DlgRelationTest, SavingToAStoredRelationReplacesItsTextAfterTheQuestion) {
