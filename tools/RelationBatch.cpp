@@ -17,30 +17,25 @@ class RelationWriter {
 
   void WriteMdl(ProMdl mdl) const {
     ProRelset set{};
-    int status = relation_.GetMdlRelset(mdl, set);
-    if (status != 0) {
-      log_.ShowUserMsg(L"can not get relation set from mdl: " + model_.GetMdlName(mdl), status);
-      return;
-    }
-    WriteSet(set, mdl);
+    WriteFound(relation_.GetMdlRelset(mdl, set), set, mdl);
   }
 
+  // Every occurrence of `mdl` among the components.
   void WriteCmps(ProMdl mdl, const std::vector<TkModelAsmCmp>& cmps) const {
     for (const TkModelAsmCmp& cmp : cmps) {
       if (!model_.IsSameMdl(cmp.mdl, mdl)) continue;
-      ProModelitem feature = cmp.feature;
       ProRelset set{};
-      int status = relation_.GetItemRelset(feature, set);
-      if (status != 0) {
-        log_.ShowUserMsg(L"can not get relation set from mdl: " + model_.GetMdlName(mdl), status);
-        continue;
-      }
-      WriteSet(set, mdl);
+      WriteFound(relation_.GetItemRelset(cmp.feature, set), set, mdl);
     }
   }
 
  private:
-  void WriteSet(ProRelset& set, ProMdl mdl) const {
+  // `found` is the status of looking up `set`.
+  void WriteFound(int found, const ProRelset& set, ProMdl mdl) const {
+    if (found != 0) {
+      log_.ShowUserMsg(L"can not get relation set from mdl: " + model_.GetMdlName(mdl), found);
+      return;
+    }
     std::vector<std::wstring> out = lines_;
     if (write_ != RelationWrite::kOverwrite) {
       std::vector<std::wstring> existing;
@@ -48,6 +43,7 @@ class RelationWriter {
       if (write_ == RelationWrite::kDelete) {
         RemoveRelationBlocks(lines_, existing, out);
       } else if (MergeRelationBlocks(lines_, existing, out) == 0 && target_ == RelationTarget::kMdl) {
+        // Only a model is spared: a component gets the empty result.
         return;
       }
     }
