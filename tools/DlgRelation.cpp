@@ -172,10 +172,10 @@ void CDlgRelation::OnInitDialog() {
   layout_->Enable(1);
   setMinimumSize(size());
   // Values outside the radios' range open on the first one.
-  sources_->button(CCfgOption().GetRadioParams() == kSourceMdl ? kSourceMdl : kSourceStore)->setChecked(true);
-  scopes_->button(CCfgOption().GetRadioMdl() == kScopeSession ? kScopeSession : kScopeCurrent)
-      ->setChecked(true);
-  curPath_->setChecked(CCfgOption().GetCheckCurPath() != 0);
+  CCfgOption option;
+  sources_->button(option.GetRadioParams() == kSourceMdl ? kSourceMdl : kSourceStore)->setChecked(true);
+  scopes_->button(option.GetRadioMdl() == kScopeSession ? kScopeSession : kScopeCurrent)->setChecked(true);
+  curPath_->setChecked(option.GetCheckCurPath() != 0);
   targets_->button(kTargetMdl)->setChecked(true);
   dir_->setText(QString::fromStdWString(CTkFile().GetCurDir()));
   filterButton_->setText(QString::fromStdWString(L"过滤方案: " + CFilterAPI().GetCurPrj(kToolKey)));
@@ -190,10 +190,10 @@ void CDlgRelation::OnInitDialog() {
 
 void CDlgRelation::EnableControls() {
   bool fromMdl = sources_->checkedId() == kSourceMdl;
-  for (QWidget* control : {static_cast<QWidget*>(mdlPathButton_), static_cast<QWidget*>(editMdl_)})
-    control->setEnabled(fromMdl);
-  for (QWidget* control : {static_cast<QWidget*>(names_), static_cast<QWidget*>(saveRelation_),
-                           static_cast<QWidget*>(newRelation_), static_cast<QWidget*>(deleteRelation_)})
+  mdlPathButton_->setEnabled(fromMdl);
+  editMdl_->setEnabled(fromMdl);
+  for (QWidget* control :
+       std::initializer_list<QWidget*>{names_, saveRelation_, newRelation_, deleteRelation_})
     control->setEnabled(!fromMdl);
   bool current = scopes_->checkedId() == kScopeCurrent;
   curPath_->setEnabled(!current);
