@@ -19,9 +19,11 @@ class RelationStoreTest : public testing::Test {
     std::filesystem::create_directories(Store());
   }
   std::filesystem::path Store() const { return std::filesystem::path(host.TextRoot()) / "Relation"; }
-  void Put(const std::string& file, const std::string& bytes) const {
-    dir.Write((Store() / file).lexically_relative(dir.path()).string(), bytes);
+  std::string Relative(const std::string& file) const {
+    return (Store() / file).lexically_relative(dir.path()).string();
   }
+  void Put(const std::string& file, const std::string& bytes) const { dir.Write(Relative(file), bytes); }
+  std::string StoreFile(const std::string& file) const { return dir.Read(Relative(file)); }
 
   TestDir dir;
   PluginHost host{dir};
@@ -47,34 +49,22 @@ TEST_F(RelationStoreTest, AMissingDirectoryListsNothing) {
   EXPECT_EQ(names, Names{});
 }
 
-TEST_F(RelationStoreTest, ATextWrittenToANameReadsBackLineByLine) {
+TEST_F(RelationStoreTest, ANameIsAFileOfItsOwnBehindADoubledSeparator) {
   EXPECT_EQ(GetRelationDir(), host.TextRoot() + L"\\\\Relation\\");
-  std::wstring path = RelationPath(L"齿轮");
-  EXPECT_EQ(path, GetRelationDir() + L"齿轮.txt");
-  ASSERT_EQ(file.AppendToFile(path, L"D = M * Z\n\nDA = D + 2*M"), 1);
-  ASSERT_EQ(file.AppendToFile(path, L"X = 1"), 1) << "a second write replaces the first";
-  std::wstring text;
-  ASSERT_EQ(file.ReadFileText(path, text), 1);
-  EXPECT_EQ(text, L"X = 1\n");
-  Names names;
-  ListRelationNames(names);
-  EXPECT_EQ(names, Names{L"齿轮"});
+  ASSERT_EQ(file.AppendToFile(RelationPath(L"齿轮"), L"D = M * Z"), 1);
+  EXPECT_EQ(StoreFile("齿轮.txt"), "D = M * Z");
 }
 
-TEST(CheckNewRelationName, UpperCasesTheNameWhenAnyIsListed) {
+TEST(CheckNewRelationName, RefusesAListedNameInAnyCaseAndUpperCasesANewOneWhenAnyIsListed) {
   std::wstring name = L"gear";
   EXPECT_EQ(CheckNewRelationName(name, {}), NewRelationName::kAccepted);
   EXPECT_EQ(name, L"gear") << "an empty store keeps the case";
   EXPECT_EQ(CheckNewRelationName(name, {L"bolt"}), NewRelationName::kAccepted);
   EXPECT_EQ(name, L"GEAR");
-}
-
-TEST(CheckNewRelationName, RefusesAListedNameInAnyCaseAndAnEmptyOne) {
-  std::wstring name = L"Gear";
+  name = L"Gear";
   EXPECT_EQ(CheckNewRelationName(name, {L"bolt", L"gEAR"}), NewRelationName::kExists);
   name.clear();
   EXPECT_EQ(CheckNewRelationName(name, {L"bolt"}), NewRelationName::kEmpty);
-  EXPECT_EQ(CheckNewRelationName(name, {}), NewRelationName::kEmpty);
 }
 
 }  // namespace
