@@ -24,3 +24,7 @@ int ShowParamsSet(uiCmdCmdId, uiCmdValue*, void*);
 // "参数合并" on the current model, in a modal dialog that the command waits
 // for. Nothing opens in a headless host.
 int ShowParamMerge(uiCmdCmdId, uiCmdValue*, void*);
+
+// "关系批量工具", made anew at each command as the BOM list is. Nothing
+// opens in a headless host.
+int ShowRelation(uiCmdCmdId, uiCmdValue*, void*);

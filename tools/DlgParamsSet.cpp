@@ -14,7 +14,9 @@
 #include "BomListCells.h"
 #include "DialogLayout.h"
 #include "ListCtrlEx.h"
+#include "MdlImage.h"
 #include "ParamCheck.h"
+#include "PlacedWidgets.h"
 #include "RowNumber.h"
 #include "WindowRules.h"
 
@@ -22,9 +24,6 @@ namespace {
 
 const wchar_t kToolKey[] = L"MdlChkTool";
 constexpr int kDialogId = 2;
-constexpr int kImagePart = 14;
-constexpr int kImageAssembly = 15;
-constexpr int kImageOther = 16;
 // A click on a reference row's check box changes it only after the click
 // has been handled; the columns follow once it has.
 constexpr int kCheckDelayMs = 100;
@@ -36,32 +35,11 @@ enum MdlCol { kMdlIndex, kMdlName, kMdlStatus };
 // Control ids of the anchored controls.
 enum ControlId { kRefFrame = 1, kRefList, kMdlFrame, kMdlList };
 
-template <typename Widget>
-Widget* Named(Widget* widget, const char* name, const QRect& rect) {
-  widget->setObjectName(name);
-  widget->setGeometry(rect);
-  return widget;
-}
-
-QRadioButton* Radio(QButtonGroup* group, int id, const char* text, const char* name, QWidget* parent,
-                    const QRect& rect) {
-  auto* radio = Named(new QRadioButton(text, parent), name, rect);
-  group->addButton(radio, id);
-  return radio;
-}
-
 template <typename Entry>
 std::vector<std::wstring> Texts(const std::vector<Entry>& entries) {
   std::vector<std::wstring> texts;
   for (const Entry& entry : entries) texts.push_back(entry.text);
   return texts;
-}
-
-int ImageOf(const CTkModel& model, ProMdl mdl) {
-  int type = 0;
-  model.GetMdlType(mdl, type);
-  if (type == CTkModel::kAssembly) return kImageAssembly;
-  return type == CTkModel::kPart ? kImagePart : kImageOther;
 }
 
 // Options outside the radios' range open on the first one.
@@ -286,7 +264,7 @@ void CDlgParamsSet::FillMdlList() {
   bool useRef = defValue_->isChecked();
   for (int row = 0; row < static_cast<int>(mdls_.size()); ++row) {
     ProMdl mdl = mdls_[row];
-    mdlList_->InsertItem(row, RowNumberText(row), ImageOf(model_, mdl));
+    mdlList_->InsertItem(row, RowNumberText(row), MdlImageOf(model_, mdl));
     mdlList_->SetItemText(row, kMdlName, model_.GetMdlName(mdl));
     bool checked = !keepChecks || oldChecks[row];
     if (checked) mdlList_->SetItemText(row, kMdlStatus, CheckMdlStatus(source_, mdl, refs_));

@@ -2,8 +2,8 @@
 
 #include <cwchar>
 
-std::wstring RowNumberText(int row) {
+std::wstring RowNumberText(int row, int digits) {
   wchar_t text[16];
-  std::swprintf(text, 16, L"%02d", row + 1);
+  std::swprintf(text, 16, L"%0*d", digits, row + 1);
   return text;
 }

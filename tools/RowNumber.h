@@ -3,5 +3,6 @@
 
 #include <string>
 
-// Row `row` (from 0) as "%02d" from 1: "01", "02", ... "100".
-std::wstring RowNumberText(int row);
+// Row `row` (from 0) counted from 1 with at least `digits` digits: "01",
+// "02", ... "100" with two.
+std::wstring RowNumberText(int row, int digits = 2);
