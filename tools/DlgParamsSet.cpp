@@ -229,6 +229,10 @@ std::vector<ParamData> CDlgParamsSet::CollectCheckedRefs() const {
 }
 
 void CDlgParamsSet::RebuildMdlColumns() {
+  // A row's check mark belongs to the row, not to a column: it outlives
+  // the columns, as the next filling relies on.
+  std::vector<bool> checks;
+  for (int row = 0; row < mdlList_->GetItemCount(); ++row) checks.push_back(mdlList_->GetCheck(row));
   for (int col = mdlList_->columnCount() - 1; col >= 0; --col) mdlList_->removeColumn(col);
   refs_ = CollectCheckedRefs();
   mdlList_->InsertColumn(kMdlIndex, L"序号", 50);
@@ -237,6 +241,7 @@ void CDlgParamsSet::RebuildMdlColumns() {
   for (int i = 0; i < static_cast<int>(refs_.size()); ++i)
     mdlList_->InsertColumn(i + kFirstAttrCol, refs_[i].name, 100);
   mdlList_->SetEditMode(CListCtrlEx::kModeEditColumns, {}, EditColumnsByPosition(refs_));
+  for (int row = 0; row < static_cast<int>(checks.size()); ++row) mdlList_->SetCheck(row, checks[row]);
 }
 
 void CDlgParamsSet::FillMdlList() {

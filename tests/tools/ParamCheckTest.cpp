@@ -21,7 +21,6 @@ ParamData Attr(const std::wstring& name, int kind, const std::wstring& value = L
 
 const std::wstring kMmKs = L"millimeter Kilogram Sec (mmKs)";
 const std::wstring kIps = L"Inch lbm Second (IPS)";
-const std::wstring kMmNs = L"millimeter Newton Second (mmNs)";
 
 TEST(ParamCheckColumns, EditColumnsFollowTheAttributePositionNotTheParameters) {
   EXPECT_EQ(EditColumnsByPosition({Attr(L"图号", 0), Attr(L"名称", 0), Attr(L"单位", 2)}),
@@ -36,16 +35,6 @@ TEST(ParamCheckColumns, EditColumnsFollowTheAttributePositionNotTheParameters) {
 TEST(ParamCheckColumns, TheUnitSystemDropDownSitsOnTheLastUnitSystemAttribute) {
   EXPECT_EQ(UnitSystemColumn({Attr(L"图号", 0)}), -1);
   EXPECT_EQ(UnitSystemColumn({Attr(L"单位", 2), Attr(L"图号", 0), Attr(L"单位2", 2)}), 5);
-}
-
-TEST(ParamCheckColumns, RowParamsTakeTheCellsOfTheParametersOnly) {
-  std::vector<ParamData> refs{Attr(L"单位", 2, kMmKs), Attr(L"图号", 0, L"X"), Attr(L"名称", 0, L"Y")};
-  std::vector<ParamData> params = RowParams(refs, {L"01", L"A", L"参数存在", kIps, L"A-1"});
-  ASSERT_EQ(params.size(), 2u);
-  EXPECT_EQ(params[0].name, L"图号");
-  EXPECT_EQ(params[0].value, L"A-1");
-  EXPECT_EQ(params[0].kind.code, kPropParam);
-  EXPECT_EQ(params[1].value, L"") << "a row shorter than the attributes gives empty values";
 }
 
 class ParamCheckModelTest : public testing::Test {
@@ -72,18 +61,6 @@ TEST_F(ParamCheckModelTest, StatusNamesEachMissingParameterAndNeverTheUnitSystem
             L"图号不存在; 材料不存在; ");
   EXPECT_EQ(CheckMdlStatus(source, mdl, {Attr(L"图号", -1)}), L"参数存在")
       << "an unknown kind is never checked";
-}
-
-TEST_F(ParamCheckModelTest, CellsShowTheModelUnlessAbsentOrTheReferenceIsWanted) {
-  sim::ModelDef def;
-  def.parameters = {RealParam(L"重量", 1.5)};
-  ProMdl mdl = sim::AddModel(L"shaft.prt", def);
-  EXPECT_EQ(AttrCellText(source, model, mdl, Attr(L"重量", 0, L"0"), false), L"1.50");
-  EXPECT_EQ(AttrCellText(source, model, mdl, Attr(L"重量", 0, L"0"), true), L"0");
-  EXPECT_EQ(AttrCellText(source, model, mdl, Attr(L"图号", 0, L"X-1"), false), L"X-1");
-  EXPECT_EQ(AttrCellText(source, model, mdl, Attr(L"单位", 2, kMmKs), false), kMmNs);
-  EXPECT_EQ(AttrCellText(source, model, mdl, Attr(L"单位", 2, kMmKs), true), kMmKs);
-  EXPECT_EQ(AttrCellText(source, model, mdl, Attr(L"材料", -1, L"Q235"), false), L"");
 }
 
 TEST_F(ParamCheckModelTest, WritingTakesTheFirstUnitSystemCellAndNeedsAParameter) {

@@ -20,12 +20,10 @@ inline sim::ParameterDef RealParam(const std::wstring& name, double number) {
   return param;
 }
 
-// An integer, or with `type` PRO_PARAM_BOOLEAN a boolean.
-inline sim::ParameterDef IntParam(const std::wstring& name, int integer,
-                                  ProParamvalueType type = PRO_PARAM_INTEGER) {
+inline sim::ParameterDef IntParam(const std::wstring& name, int integer) {
   sim::ParameterDef param;
   param.name = name;
-  param.type = type;
+  param.type = PRO_PARAM_INTEGER;
   param.integer = integer;
   return param;
 }

@@ -2,12 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "HostControl.h"
-#include "ModelDef.h"
-#include "ParamDefs.h"
-#include "PluginHost.h"
 #include "RowNumber.h"
-#include "TkParam.h"
 
 namespace {
 
@@ -45,24 +40,6 @@ TEST(ParamMergeOrder, RowNumbersHaveTwoDigitsAtLeast) {
   EXPECT_EQ(RowNumberText(99), L"100");
   EXPECT_EQ(RowNumberText(0, 3), L"001");
   EXPECT_EQ(RowNumberText(999, 3), L"1000");
-}
-
-class JoinParamValuesTest : public testing::Test {
- protected:
-  TestDir dir;
-  PluginHost host{dir};
-};
-
-TEST_F(JoinParamValuesTest, ValuesFollowEachOtherWithoutSeparator) {
-  sim::ModelDef def;
-  def.parameters = {TextParam(L"图号", L"JSQ-01"), RealParam(L"长度", 12.75), IntParam(L"数量", 3),
-                    IntParam(L"外购", 1, PRO_PARAM_BOOLEAN)};
-  ProMdl mdl = sim::AddModel(L"shaft.prt", def);
-  CTkParam param;
-  EXPECT_EQ(JoinParamValues(param, mdl, {L"图号", L"长度", L"数量", L"外购"}, 2), L"JSQ-0112.753TRUE");
-  EXPECT_EQ(JoinParamValues(param, mdl, {L"长度", L"长度"}, 0), L"1313") << "a name twice joins twice";
-  EXPECT_EQ(JoinParamValues(param, mdl, {L"图号", L"没有", L"数量"}, 2), L"JSQ-013");
-  EXPECT_EQ(JoinParamValues(param, mdl, {}, 2), L"");
 }
 
 }  // namespace
