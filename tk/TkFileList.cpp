@@ -2,48 +2,11 @@
 #include "TkFile.h"
 
 #include "Files.h"
-#include "ProArray.h"
-#include "ProUtil.h"
-#include "TkText.h"
+#include "HostPathLists.h"
 
 namespace {
 
 bool IsDotEntry(const std::wstring& name) { return name == L"." || name == L".."; }
-
-// Two host arrays of paths for one ProFilesList, freed with the object.
-class HostPathLists {
- public:
-  HostPathLists() {
-    ProArrayAlloc(0, sizeof(ProPath), 1, reinterpret_cast<ProArray*>(&files));
-    ProArrayAlloc(0, sizeof(ProPath), 1, reinterpret_cast<ProArray*>(&directories));
-  }
-  ~HostPathLists() {
-    if (files) ProArrayFree(reinterpret_cast<ProArray*>(&files));
-    if (directories) ProArrayFree(reinterpret_cast<ProArray*>(&directories));
-  }
-  HostPathLists(const HostPathLists&) = delete;
-  HostPathLists& operator=(const HostPathLists&) = delete;
-
-  ProError List(const std::wstring& directory, const std::wstring& filter, int option) {
-    ProPath path{};
-    tktext::CopyToBuffer(path, directory);
-    ProLine line{};
-    tktext::CopyToBuffer(line, filter);
-    return ProFilesList(path, line, static_cast<ProFileListOpt>(option), &files, &directories);
-  }
-
-  static std::vector<std::wstring> Texts(ProPath* paths) {
-    std::vector<std::wstring> texts;
-    int count = 0;
-    if (paths && ProArraySizeGet(paths, &count) == PRO_TK_NO_ERROR) {
-      for (int i = 0; i < count; ++i) texts.emplace_back(paths[i]);
-    }
-    return texts;
-  }
-
-  ProPath* files = nullptr;
-  ProPath* directories = nullptr;
-};
 
 }  // namespace
 

@@ -3,6 +3,7 @@
 // that follow the current material, and what a save keeps.
 #include "HostControl.h"
 #include "Inspection.h"
+#include "MaterialFileText.h"
 #include "ProArray.h"
 #include "ProMaterial.h"
 #include "ProMdl.h"
@@ -17,15 +18,6 @@
 
 namespace {
 
-// A material file of the present form, as the host writes it.
-std::string Mtl(const std::string& name, const std::string& density) {
-  return "ND_RelParSet_K01 = {\n\nName = " + name +
-         "\n\nPARAMETERS =\n{\n  Name = PTC_MATERIAL_DESCRIPTION\n  Type = String\n  Default = 'x'\n"
-         "  Access = Full\n},\n{\n  Name = PTC_YOUNG_MODULUS\n  Type = Real\n  Default = 2.090000e+05 MPa\n"
-         "  Access = Full\n},\n{\n  Name = PTC_MASS_DENSITY\n  Type = Real\n  Default = " +
-         density + "\n  Access = Full\n}\n}\n";
-}
-
 class SimMaterials : public SimTest {
  protected:
   SimMaterials() {
@@ -35,7 +27,7 @@ class SimMaterials : public SimTest {
       "massProperties": {"volume": 1000, "mass": 9.9})"));
     dir.Write("m/bare.prt", ModelJson("part", R"("massProperties": {"volume": 2000})"));
     dir.Write("m/top.asm", ModelJson("assembly"));
-    dir.Write("mat/45.mtl", Mtl("45", "7.850000e-09 tonne/mm^3"));
+    dir.Write("mat/45.mtl", MaterialFileText("45", "7.850000e-09 tonne/mm^3"));
     shaft = Load(dir.Wide("m/shaft.prt"));
     bare = Load(dir.Wide("m/bare.prt"));
     SetMaterialDir(dir.Wide("mat"));
@@ -171,7 +163,7 @@ TEST_F(SimMaterials, TheDensityFollowsTheUnitsOfTheFileAndOfThePart) {
   dir.Write("m/kg.prt", ModelJson("part", R"json("principalUnitSystem": "millimeter Kilogram Sec (mmKs)",
       "massProperties": {"volume": 1000})json"));
   ProMdl kg = Load(dir.Wide("m/kg.prt"));
-  dir.Write("mat/h62.mtl", Mtl("H62", "8.43 kg/dm^3"));
+  dir.Write("mat/h62.mtl", MaterialFileText("H62", "8.43 kg/dm^3"));
   ASSERT_EQ(Read(kg, L"H62"), PRO_TK_NO_ERROR);
   ASSERT_EQ(MakeCurrent(kg, L"H62"), PRO_TK_NO_ERROR);
   EXPECT_NEAR(Density(kg), 8.43e-6, 1e-18);
@@ -184,7 +176,7 @@ TEST_F(SimMaterials, TheDensityFollowsTheUnitsOfTheFileAndOfThePart) {
 TEST_F(SimMaterials, TheNewerFormComesFirstThenTheOlderAndAFileWithoutADensityIsRefused) {
   dir.Write("mat/45.mat", "MATERIAL 45\nMASS_DENSITY = 1.0e-09\n");
   dir.Write("mat/HT200.MAT", "MATERIAL HT200\nYOUNG_MODULUS = 1.0e+05\nMASS_DENSITY = 7.2e-09\n");
-  dir.Write("mat/odd.mtl", Mtl("ODD", "7.8 furlong/mm^3"));
+  dir.Write("mat/odd.mtl", MaterialFileText("ODD", "7.8 furlong/mm^3"));
   dir.Write("mat/empty.mtl", "ND_RelParSet_K01 = {\nName = EMPTY\n}\n");
   ASSERT_EQ(Read(bare, L"45"), PRO_TK_NO_ERROR);
   ASSERT_EQ(Read(bare, L"ht200"), PRO_TK_NO_ERROR) << "the file is found whatever the case";
@@ -205,7 +197,7 @@ TEST_F(SimMaterials, TheNewerFormComesFirstThenTheOlderAndAFileWithoutADensityIs
 TEST_F(SimMaterials, RereadingTheCurrentMaterialChangesThePartWithIt) {
   ASSERT_EQ(Read(bare, L"45"), PRO_TK_NO_ERROR);
   ASSERT_EQ(MakeCurrent(bare, L"45"), PRO_TK_NO_ERROR);
-  dir.Write("other/45.mtl", Mtl("45", "7.0e-09 tonne/mm^3"));
+  dir.Write("other/45.mtl", MaterialFileText("45", "7.0e-09 tonne/mm^3"));
   SetMaterialDir(dir.Wide("other"));
   ASSERT_EQ(Read(bare, L"45"), PRO_TK_NO_ERROR);
   EXPECT_EQ(Held(bare), std::vector<std::wstring>{L"45"});
@@ -216,7 +208,7 @@ TEST_F(SimMaterials, ARelativeMaterialDirectoryOfTheSessionIsTakenFromTheSession
   dir.Write("s/session.json", R"({"open": ["gear.prt"], "configOptions": {
       "pro_material_dir": "materials", "template_file": "../t/a.txt", "display": "shade"}})");
   dir.Write("s/gear.prt", ModelJson("part", R"("massProperties": {"volume": 10})"));
-  dir.Write("s/materials/45.mtl", Mtl("45", "7.85e-09 tonne/mm^3"));
+  dir.Write("s/materials/45.mtl", MaterialFileText("45", "7.85e-09 tonne/mm^3"));
   sim::StartHost({dir.path() / "work"});
   ASSERT_EQ(sim::LoadSession(dir.path() / "s"), PRO_TK_NO_ERROR);
   auto options = sim::ConfigOptions();
