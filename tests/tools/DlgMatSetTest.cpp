@@ -184,19 +184,6 @@ TEST_F(DlgMatSetTest, OpensOnTheCurrentModelWithMaterialsAndTheShownParameterCol
   EXPECT_EQ(list->GetItemText(4, kColMaterial), L"");
 }
 
-TEST_F(DlgMatSetTest, TheDirectoryBoxShowsWithShowLoadDirAndStoresItsCheck) {
-  SetParamsOption(L"ShowLoadDir", L"1");
-  CCfgOption().SetCheckDir(1);
-  CDlgMatSet* dialog = Open();
-  ASSERT_NE(dialog, nullptr);
-  auto* checkDir = dialog->findChild<QCheckBox*>("CheckDir");
-  EXPECT_TRUE(checkDir->isVisible());
-  EXPECT_TRUE(checkDir->isChecked());
-  EXPECT_EQ(dialog->findChild<QLineEdit*>("DirEdit")->text().toStdWString(), CTkFile().GetCurDir());
-  checkDir->click();
-  EXPECT_EQ(CCfgOption().GetCheckDir(), 0);
-}
-
 TEST_F(DlgMatSetTest, WithoutAMaterialDirectoryTheUserIsToldAndTheModelsStillShow) {
   material.SetMaterialDir(L"");
   CDlgMatSet* dialog = Open();

@@ -1,15 +1,13 @@
 // The batch material tool's workbook: the list written from mattbl.xls into
-// a chosen directory, read back by independent readers, and the material
-// column taken from a chosen workbook by position.
+// a chosen directory and read back by independent readers. The import is
+// played through the dialog (DlgMatSetTest).
 #include "MatTable.h"
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <map>
 
 #include "CodePage.h"
-#include "ExcelApp.h"
 #include "HostControl.h"
 #include "MessageBox.h"
 #include "PluginHost.h"
@@ -41,11 +39,6 @@ class MatTableTest : public testing::Test {
     platform::SetShellOpenHandler(previousShell);
   }
   std::wstring Target() const { return dir.Wide("out") + L"\\MatTable.xls"; }
-  std::map<int, std::wstring> Import(int rowCount) const {
-    std::map<int, std::wstring> materials;
-    ReadMatTable(rowCount, [&](int row, const std::wstring& material) { materials[row] = material; });
-    return materials;
-  }
 
   TestDir dir;
   PluginHost host{dir};
@@ -84,28 +77,6 @@ TEST_F(MatTableTest, AnExistingTableStaysUnlessTheOverwriteIsConfirmed) {
   WriteMatTable(kRows);
   EXPECT_EQ(prompts, std::vector<std::wstring>{L"提示:文件：" + Target() + L" 已经存在，是否覆盖？"});
   EXPECT_EQ(dir.Read("out/MatTable.xls"), "earlier");
-
-  prompts.clear();
-  answer = platform::kIdYes;
-  sim::PushAnswer("ProDirectoryChoose", dir.Wide("out"));
-  WriteMatTable(kRows);
-  EXPECT_EQ(prompts.size(), 2u) << "the overwrite, then the offer to open";
-  ExcelApp excel;
-  excel.StartExcel(0);
-  ASSERT_EQ(excel.OpenWorkbook(Target()), 1);
-  std::wstring material;
-  excel.GetCellText(L"sheet1", 4, 3, material);
-  EXPECT_EQ(material, L"HT200");
-}
-
-TEST_F(MatTableTest, NoRowsOrNoDirectoryWritesNothing) {
-  sim::PushAnswer("ProDirectoryChoose", dir.Wide("out"));
-  WriteMatTable({});
-  EXPECT_TRUE(sim::TakeAnswer("ProDirectoryChoose").has_value()) << "no directory was asked for";
-  sim::PushAnswer("ProDirectoryChoose", std::nullopt);
-  WriteMatTable(kRows);
-  EXPECT_TRUE(fs::is_empty(dir.path() / "out"));
-  EXPECT_TRUE(prompts.empty());
 }
 
 TEST_F(MatTableTest, AMissingTemplateIsToldAndTheOldTableIsGoneAlready) {
@@ -116,28 +87,6 @@ TEST_F(MatTableTest, AMissingTemplateIsToldAndTheOldTableIsGoneAlready) {
   WriteMatTable(kRows);
   EXPECT_EQ(prompts.back(), L"提示:新建Excel失败");
   EXPECT_FALSE(fs::exists(dir.path() / "out" / "MatTable.xls"));
-}
-
-TEST_F(MatTableTest, TheImportTakesTheMaterialColumnByPositionAndEmptyBelowTheSheetsRows) {
-  sim::PushAnswer("ProDirectoryChoose", dir.Wide("out"));
-  WriteMatTable({{L"07", L"OTHER", L"Q235"}, {L"08", L"ANOTHER", L"45"}});
-  sim::PushAnswer("ProFileMdlfiletypeOpen", Target());
-  std::map<int, std::wstring> materials = Import(4);
-  EXPECT_EQ(materials, (std::map<int, std::wstring>{{0, L"Q235"}, {1, L"45"}, {2, L""}, {3, L""}}));
-}
-
-TEST_F(MatTableTest, TheImportEndsWithoutAWorkbookOrRowsAndTellsOfOneItCannotRead) {
-  sim::PushAnswer("ProFileMdlfiletypeOpen", std::nullopt);
-  EXPECT_TRUE(Import(3).empty());
-  EXPECT_TRUE(prompts.empty());
-
-  dir.Write("out/MatTable.xls", "not a workbook");
-  sim::PushAnswer("ProFileMdlfiletypeOpen", Target());
-  EXPECT_TRUE(Import(0).empty());
-  EXPECT_TRUE(sim::TakeAnswer("ProFileMdlfiletypeOpen").has_value()) << "no file was asked for";
-  sim::PushAnswer("ProFileMdlfiletypeOpen", Target());
-  EXPECT_TRUE(Import(3).empty());
-  EXPECT_EQ(prompts, std::vector<std::wstring>{L"提示:加载失败: " + Target()});
 }
 
 }  // namespace
