@@ -21,6 +21,10 @@ int ShowBomSet(uiCmdCmdId, uiCmdValue*, void*);
 // opens in a headless host.
 int ShowParamsSet(uiCmdCmdId, uiCmdValue*, void*);
 
+// "材料批量设置", made anew at each command as the BOM list is. Nothing
+// opens in a headless host.
+int ShowMatSet(uiCmdCmdId, uiCmdValue*, void*);
+
 // "参数合并" on the current model, in a modal dialog that the command waits
 // for. Nothing opens in a headless host.
 int ShowParamMerge(uiCmdCmdId, uiCmdValue*, void*);

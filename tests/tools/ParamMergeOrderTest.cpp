@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "RowNumber.h"
+
 namespace {
 
 using Names = std::vector<std::wstring>;
