@@ -8,5 +8,8 @@
 // Makes the application (offscreen without a display), reads the script and
 // plays it: 0 when every step ran, 1 when one could not or the script cannot
 // be read, the reason on `err`.
-int RunPlayJob(const std::filesystem::path& script, std::ostream& out, std::ostream& err, int argc,
+// "$SESSION" and "$WORKDIR" in an answer's path stand for `session` and
+// `workdir`, made absolute.
+int RunPlayJob(const std::filesystem::path& script, const std::filesystem::path& session,
+               const std::filesystem::path& workdir, std::ostream& out, std::ostream& err, int argc,
                char* argv[]);

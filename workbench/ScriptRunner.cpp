@@ -235,11 +235,23 @@ class Player {
     return error.empty() ? Done() : Retry(error);
   }
 
+  std::wstring ExpandPathVariables(const std::wstring& path) const {
+    for (const auto& [name, dir] :
+         {std::pair{L"$SESSION", &options_.sessionDir}, std::pair{L"$WORKDIR", &options_.workDir}}) {
+      std::wstring variable = name;
+      if (path.starts_with(variable) && (path.size() == variable.size() || path[variable.size()] == L'/'))
+        return *dir + path.substr(variable.size());
+    }
+    return path;
+  }
+
   Outcome StepAnswer(const ScriptStep& step) {
     std::wstring error;
     std::optional<QueuedAnswer> answer =
         ParseAnswer(std::vector<std::wstring>(step.fields.begin() + 1, step.fields.end()), error);
     if (!answer) return Fail(error);
+    if (answer->kind == AnswerKind::Dir || answer->kind == AnswerKind::File)
+      answer->value = ExpandPathVariables(answer->value);
     answers_.Queue(*answer);
     return Done();
   }

@@ -19,6 +19,10 @@ struct PlayOptions {
   int waitMs = 5000;
   // The host's own window, which scripts never act on.
   const QWidget* hostWindow = nullptr;
+  // What "$SESSION" and "$WORKDIR" at the start of an answer's path stand
+  // for, so that a script names the session's files wherever it is played.
+  std::wstring sessionDir;
+  std::wstring workDir;
 };
 
 // Runs the steps in the running QApplication: 0 when every step ran; 1 when

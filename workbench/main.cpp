@@ -39,7 +39,7 @@ int main(int argc, char* argv[]) {
   } else if (options.job == "bom") {
     exitCode = RunBomJob(options.bom, options.workdir, std::cout, std::cerr, argc, argv);
   } else if (options.job == "play") {
-    exitCode = RunPlayJob(options.script, std::cout, std::cerr, argc, argv);
+    exitCode = RunPlayJob(options.script, options.session, options.workdir, std::cout, std::cerr, argc, argv);
   } else if (options.job == "gui") {
     exitCode = RunGui(options.gui, argc, argv);
   } else {

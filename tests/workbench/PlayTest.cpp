@@ -14,6 +14,7 @@
 
 #include <sstream>
 
+#include "CodePage.h"
 #include "HostControl.h"
 #include "SampleSessionTest.h"
 #include "Script.h"
@@ -35,12 +36,12 @@ class PlayTest : public SampleSessionTest {
   }
 
   // A failing step waits this long for its control; a passing one never does.
-  static Played Play(const std::string& text, int waitMs = 200) {
+  Played Play(const std::string& text, int waitMs = 200) {
     ParsedScript script = ParseScript(text);
     EXPECT_TRUE(script.error.empty());
     std::ostringstream out;
     std::ostringstream err;
-    PlayOptions options{L"test.play", waitMs, nullptr};
+    PlayOptions options{L"test.play", waitMs, nullptr, L"", platform::ToWide(dir_.path().string())};
     Played played;
     played.exitCode = PlayScript(script.steps, options, out, err);
     played.out = out.str();
@@ -139,9 +140,7 @@ TEST_F(PlayTest, QueuedAnswersGoToQuestionsAndChoosersInOrder) {
   std::filesystem::create_directories(dir_.path() / "out");
   Played played = Play(
       "run CmdBOMShowId\n"
-      "answer dir " +
-      Out() +
-      "\n"
+      "answer dir $WORKDIR/out/\n"
       "click OutDirButton\n"
       "check Text on\n"
       "answer no\n"
