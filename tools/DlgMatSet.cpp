@@ -20,6 +20,7 @@
 #include "MaterialAssign.h"
 #include "MaterialFiles.h"
 #include "PlacedWidgets.h"
+#include "ToolSlot.h"
 #include "RowNumber.h"
 #include "WindowRules.h"
 
@@ -51,15 +52,7 @@ QPointer<CDlgMatSet> dlgMatSet;
 
 }  // namespace
 
-void ShowMatSetDlg() {
-  if (dlgMatSet) {
-    dlgMatSet->hide();
-    dlgMatSet->deleteLater();
-  }
-  dlgMatSet = new CDlgMatSet();
-  dlgMatSet->OnInitDialog();
-  dlgMatSet->show();
-}
+void ShowMatSetDlg() { ShowInSlot(dlgMatSet); }
 
 CDlgMatSet::CDlgMatSet(QWidget* parent) : QDialog(parent) {
   setWindowTitle("材料批量设置");

@@ -17,6 +17,7 @@
 #include "MdlImage.h"
 #include "ParamCheck.h"
 #include "PlacedWidgets.h"
+#include "ToolSlot.h"
 #include "RowNumber.h"
 #include "WindowRules.h"
 
@@ -49,15 +50,7 @@ QPointer<CDlgParamsSet> dlgParamsSet;
 
 }  // namespace
 
-void ShowParamsSetDlg() {
-  if (dlgParamsSet) {
-    dlgParamsSet->hide();
-    dlgParamsSet->deleteLater();
-  }
-  dlgParamsSet = new CDlgParamsSet();
-  dlgParamsSet->OnInitDialog();
-  dlgParamsSet->show();
-}
+void ShowParamsSetDlg() { ShowInSlot(dlgParamsSet); }
 
 CDlgParamsSet::CDlgParamsSet(QWidget* parent) : QDialog(parent) {
   setWindowTitle("参数批量检查");

@@ -18,6 +18,7 @@
 #include "MessageBox.h"
 #include "ParamSource.h"
 #include "PlacedWidgets.h"
+#include "ToolSlot.h"
 #include "ProMdl.h"
 #include "RelationBatch.h"
 #include "RelationStore.h"
@@ -69,15 +70,7 @@ QPointer<CDlgRelation> dlgRelation;
 
 }  // namespace
 
-void ShowRelationDlg() {
-  if (dlgRelation) {
-    dlgRelation->hide();
-    dlgRelation->deleteLater();
-  }
-  dlgRelation = new CDlgRelation();
-  dlgRelation->OnInitDialog();
-  dlgRelation->show();
-}
+void ShowRelationDlg() { ShowInSlot(dlgRelation); }
 
 CDlgRelation::CDlgRelation(QWidget* parent) : QDialog(parent) {
   setWindowTitle("关系批量工具");

@@ -19,10 +19,9 @@
 #include "HostControl.h"
 #include "IniEx.h"
 #include "ListCtrlEx.h"
-#include "MessageBox.h"
 #include "PluginHost.h"
 #include "ReadBack.h"
-#include "Shell.h"
+#include "RecordedPrompts.h"
 #include "TkBOM.h"
 
 namespace fs = std::filesystem;
@@ -57,27 +56,16 @@ TEST(BomOutputPaths, ExcelIsAppendedWithoutSeparatorAndTheTextPathAddsOne) {
 }
 
 // The sample reducer in session with the delivered settings, its list dialog
-// open. Questions are answered as `answerYes` says, the shell's opens are
+// open. Questions are answered as `yes` says, the shell's opens are
 // recorded, and every cell of the list gets a known text.
-class BomExportTest : public testing::Test {
+class BomExportTest : public testing::Test, protected RecordedPrompts {
  protected:
   void SetUp() override {
     ASSERT_EQ(sim::LoadSession(fs::path(BOM_SAMPLES_DIR) / "reducer"), PRO_TK_NO_ERROR);
-    previousBox_ = platform::SetMessageBoxHandler([this](const platform::MessageBoxRequest& request) {
-      prompts.push_back(request.caption + L":" + request.text);
-      if (request.flags != platform::kMbYesNo) return platform::kIdOk;
-      return answerYes ? platform::kIdYes : platform::kIdNo;
-    });
-    previousShell_ = platform::SetShellOpenHandler([this](const platform::ShellOpenRequest& request) {
-      opened.push_back(request.path);
-      return true;
-    });
   }
   void TearDown() override {
     platform::ClearFileFaults();
     dialog.reset();
-    platform::SetMessageBoxHandler(previousBox_);
-    platform::SetShellOpenHandler(previousShell_);
   }
 
   void OpenWithTheSampleTexts() {
@@ -130,15 +118,10 @@ class BomExportTest : public testing::Test {
 
   TestDir dir;
   PluginHost host{dir};
-  bool answerYes = false;
-  std::vector<std::wstring> prompts;
-  std::vector<std::wstring> opened;
   std::unique_ptr<CDlgBomShow> dialog;
   CListCtrlEx* list = nullptr;
 
  private:
-  platform::MessageBoxHandler previousBox_;
-  platform::ShellOpenHandler previousShell_;
 };
 
 TEST_F(BomExportTest, ExcelHoldsOnlyTheCheckedRowsWithoutGapsBelowDateAndParameters) {
@@ -169,7 +152,7 @@ TEST_F(BomExportTest, ExcelTableStartsAtTheConfiguredCellAndIgnoresThePageLength
   Open();
   std::vector<int> all;
   for (int row = 0; row < list->GetItemCount(); ++row) all.push_back(row);
-  answerYes = true;
+  yes = true;
   Press(true, false);
 
   ASSERT_TRUE(fs::exists(Workbook()));
@@ -238,7 +221,7 @@ TEST_F(BomExportTest, ExistingWorkbookIsKeptWhenOverwritingIsDeclined) {
   EXPECT_EQ(dir.Read("out/Excel/清单.xls"), "mine");
   EXPECT_EQ(prompts, std::vector<std::wstring>{L"提示:文件：" + WorkbookPath() + L" 已经存在，是否覆盖？"});
 
-  answerYes = true;
+  yes = true;
   Press(true, false);
   EXPECT_NE(dir.Read("out/Excel/清单.xls"), "mine");
   EXPECT_TRUE(PythonReaderProblems({Workbook(), {}, HeadCells()}, dir.path()).empty());
@@ -308,7 +291,7 @@ TEST_F(BomExportTest, TextHoldsTheHeaderAndTheCheckedRowsByteForByteAndOnlyTheHe
   list->SetItemText(0, 2, L"JSQ-00-000");
   for (int row = 2; row < list->GetItemCount(); ++row) list->SetCheck(row, false);
   dir.Write("out/清单.txt", "old contents to be replaced\n");
-  answerYes = true;
+  yes = true;
   Press(false, true);
 
   std::wstring expected =
@@ -337,7 +320,7 @@ TEST_F(BomExportTest, ReadOnlyWorkbookIsToldAndKeptAndTheNextOutputSucceeds) {
   dir.Write("out/Excel/清单.xls", "the workbook of yesterday");
   const fs::perms readOnly = fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read;
   fs::permissions(Workbook(), readOnly);
-  answerYes = true;
+  yes = true;
   Press(true, true);
 
   ASSERT_EQ(prompts.size(), 2u);
@@ -361,7 +344,7 @@ TEST_F(BomExportTest, ReadOnlyWorkbookIsToldAndKeptAndTheNextOutputSucceeds) {
 TEST_F(BomExportTest, ReadOnlyExcelDirectoryOrAFullDiskKeepsTheOldWorkbook) {
   Open();
   dir.Write("out/Excel/清单.xls", "the workbook of yesterday");
-  answerYes = true;
+  yes = true;
   for (platform::FileFault fault :
        {platform::FileFault{platform::FileFaultKind::kReadOnlyDirectory, Workbook().parent_path()},
         platform::FileFault{platform::FileFaultKind::kDiskFull, Workbook(), 4096}}) {

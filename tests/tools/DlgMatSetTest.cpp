@@ -25,8 +25,8 @@
 #include "ListCtrlEx.h"
 #include "MatTable.h"
 #include "MaterialFileText.h"
-#include "MessageBox.h"
 #include "PluginHost.h"
+#include "RecordedPrompts.h"
 #include "ProToolkitDll.h"
 #include "Registration.h"
 #include "Script.h"
@@ -45,7 +45,7 @@ enum Row { kRowGearbox, kRowShaft, kRowCover, kRowPin };
 // A gearbox of three parts: the shaft in 45 and the cover in Q235, whose
 // files lie in the material directory "mat", and the pin in a material of
 // which there is no file. A drawing of the gearbox is in session too.
-class DlgMatSetTest : public testing::Test {
+class DlgMatSetTest : public testing::Test, protected RecordedPrompts {
  protected:
   void SetUp() override {
     dir.Write("session/gearbox.asm.1", R"({"type": "assembly",
@@ -66,14 +66,9 @@ class DlgMatSetTest : public testing::Test {
     WriteMaterial("elsewhere/h62.mtl", "H62", "8.43e-09");
     // Relative, so that the option fits its 80 characters wherever the test runs.
     material.SetMaterialDir(L"mat");
-    previousBox = platform::SetMessageBoxHandler([this](const platform::MessageBoxRequest& request) {
-      prompts.push_back(request.caption + L":" + request.text);
-      return platform::kIdOk;
-    });
   }
   void TearDown() override {
     for (QWidget* widget : QApplication::topLevelWidgets()) delete dynamic_cast<CDlgMatSet*>(widget);
-    platform::SetMessageBoxHandler(previousBox);
   }
 
   static std::string Part(const std::string& materialName, double density, double volume,
@@ -129,7 +124,6 @@ class DlgMatSetTest : public testing::Test {
   std::string Play(const std::string& steps) {
     AutoSaveStarted = 1;  // the timers are not under test here
     user_initialize(0, nullptr, nullptr, nullptr, nullptr);
-    platform::SetMessageBoxHandler(previousBox);  // the script answers
     ParsedScript script = ParseScript(steps);
     EXPECT_TRUE(script.error.empty());
     std::ostringstream out;
@@ -142,8 +136,6 @@ class DlgMatSetTest : public testing::Test {
   TestDir dir;
   PluginHost host{dir};
   CTkMaterial material;
-  platform::MessageBoxHandler previousBox;
-  std::vector<std::wstring> prompts;
 };
 
 TEST_F(DlgMatSetTest, OpensOnTheCurrentModelWithMaterialsAndTheShownParameterColumns) {

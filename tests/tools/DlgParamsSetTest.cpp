@@ -27,11 +27,10 @@
 #include "IniEx.h"
 #include "Inspection.h"
 #include "ListCtrlEx.h"
-#include "MessageBox.h"
 #include "PluginHost.h"
 #include "ProToolkitDll.h"
+#include "RecordedPrompts.h"
 #include "Registration.h"
-#include "Shell.h"
 #include "TkModel.h"
 #include "TkParam.h"
 #include "WidgetSteps.h"
@@ -67,7 +66,7 @@ const char kParamsCsv[] =
 
 // An assembly with a complete shaft, a cover lacking 图号 and 重量 in inches
 // and a standard washer, current in session; the plug-in reads kParamsCsv.
-class DlgParamsSetTest : public testing::Test {
+class DlgParamsSetTest : public testing::Test, protected RecordedPrompts {
  protected:
   void SetUp() override {
     dir.Write("session/reducer.asm.1", R"({"type": "assembly",
@@ -86,19 +85,9 @@ class DlgParamsSetTest : public testing::Test {
     dir.Write("session/session.json", R"({"open": ["reducer.asm"], "current": "reducer.asm"})");
     ASSERT_EQ(sim::LoadSession(dir.path() / "session"), PRO_TK_NO_ERROR);
     dir.Write("app/template/Params.csv", kParamsCsv);
-    previousBox = platform::SetMessageBoxHandler([this](const platform::MessageBoxRequest& request) {
-      prompts.push_back(request.caption + L":" + request.text);
-      return platform::kIdOk;
-    });
-    previousShell = platform::SetShellOpenHandler([this](const platform::ShellOpenRequest& request) {
-      opened.push_back(request.path);
-      return true;
-    });
   }
   void TearDown() override {
     for (CDlgParamsSet* shown : Dialogs()) delete shown;
-    platform::SetMessageBoxHandler(previousBox);
-    platform::SetShellOpenHandler(previousShell);
   }
 
   static std::vector<CDlgParamsSet*> Dialogs() {
@@ -187,10 +176,6 @@ class DlgParamsSetTest : public testing::Test {
 
   TestDir dir;
   PluginHost host{dir};
-  platform::MessageBoxHandler previousBox;
-  platform::ShellOpenHandler previousShell;
-  std::vector<std::wstring> prompts;
-  std::vector<std::wstring> opened;
   CTkParam param;
   CDlgParamsSet* dialog = nullptr;
   CListCtrlEx* refs = nullptr;

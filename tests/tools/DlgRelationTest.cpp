@@ -21,7 +21,7 @@
 #include "HostControl.h"
 #include "Inspection.h"
 #include "ListCtrlEx.h"
-#include "MessageBox.h"
+#include "RecordedPrompts.h"
 #include "ModelDef.h"
 #include "PluginHost.h"
 #include "ProToolkitDll.h"
@@ -37,9 +37,9 @@ constexpr int kColName = 1;
 
 // An assembly holding the gear twice and the shaft once, current in
 // session, each model with relations of its own and the first gear
-// occurrence with a component relation. Message boxes are recorded; a
+// occurrence with a component relation. Message prompts are recorded; a
 // question takes the next queued answer, no when none is queued.
-class DlgRelationTest : public testing::Test {
+class DlgRelationTest : public testing::Test, protected RecordedPrompts {
  protected:
   void SetUp() override {
     sim::ModelDef gear;
@@ -55,20 +55,10 @@ class DlgRelationTest : public testing::Test {
     box.components[0].relations = {L"X = 1"};
     assembly = sim::AddModel(L"gearbox.asm", box);
     host.MakeCurrent(assembly);
-    previous = platform::SetMessageBoxHandler([this](const platform::MessageBoxRequest& request) {
-      boxes.push_back(request.caption + L":" + request.text);
-      if (request.flags != platform::kMbYesNo) return platform::kIdOk;
-      bool yes = !answers.empty() && answers.front();
-      if (!answers.empty()) answers.pop_front();
-      return yes ? platform::kIdYes : platform::kIdNo;
-    });
     std::filesystem::remove_all(Store());
     std::filesystem::create_directories(Store());
   }
-  void TearDown() override {
-    dialog.reset();
-    platform::SetMessageBoxHandler(previous);
-  }
+  void TearDown() override { dialog.reset(); }
 
   void Open() {
     dialog = std::make_unique<CDlgRelation>();
@@ -141,9 +131,6 @@ class DlgRelationTest : public testing::Test {
   ProMdl assembly = nullptr;
   CTkRelation relation;
   CCfgOption option;
-  platform::MessageBoxHandler previous;
-  std::vector<std::wstring> boxes;
-  std::deque<bool> answers;
   std::unique_ptr<CDlgRelation> dialog;
   CListCtrlEx* list = nullptr;
   QTextEdit* editor = nullptr;
@@ -254,7 +241,7 @@ TEST_F(DlgRelationTest, ARelationTheHostRefusesIsReportedAndTheModelStaysAsItWas
   Write("AddButton", L"E = )");
   EXPECT_EQ(Messages().back(), L"can not set relation to mdl: SHAFT  PRO_TK_GENERAL_ERROR");
   EXPECT_EQ(sim::ModelState(sim::OpenModel(L"gear.prt")), before);
-  EXPECT_TRUE(boxes.empty()) << "no message box comes up";
+  EXPECT_TRUE(prompts.empty()) << "no message box comes up";
 }
 
 TEST_F(DlgRelationTest, FailuresOfTheHostInADeleteAndWithoutASetAreReported) {
@@ -278,14 +265,14 @@ TEST_F(DlgRelationTest, AModelSourceShowsItsRelationsOrSaysWhyNot) {
   sim::PushAnswer("ProFileMdlfiletypeOpen", L"missing.prt");
   Click("MdlPathButton");
   EXPECT_EQ(editor->toPlainText(), "");
-  EXPECT_EQ(boxes, Lines{L"提示:无法加载missing.prt"});
+  EXPECT_EQ(prompts, Lines{L"提示:无法加载missing.prt"});
 }
 
 TEST_F(DlgRelationTest, EditingAModelNeedsAPathAndOpensItsWindow) {
   option.SetRadioParams(1);
   Open();
   Click("EditMdlButton");
-  EXPECT_EQ(boxes, Lines{L"提示:模型路径不能为空!"});
+  EXPECT_EQ(prompts, Lines{L"提示:模型路径不能为空!"});
   sim::PushAnswer("ProFileMdlfiletypeOpen", L"shaft.prt");
   Click("MdlPathButton");
   Click("EditMdlButton");
@@ -337,8 +324,8 @@ TEST_F(DlgRelationTest, SavingToAStoredRelationReplacesItsTextAfterTheQuestion) 
   answers = {true};
   Click("SaveRelationButton");
   EXPECT_EQ(StoreFile("gear.txt"), "");
-  EXPECT_EQ(boxes, (Lines{L"提示:确实保存当前关系式到gear?", L"提示:确实保存当前关系式到gear?",
-                          L"提示:保存关系式成功!"}));
+  EXPECT_EQ(prompts, (Lines{L"提示:确实保存当前关系式到gear?", L"提示:确实保存当前关系式到gear?",
+                            L"提示:保存关系式成功!"}));
 }
 
 TEST_F(DlgRelationTest, ADoubleClickedNameAppendsItsTextBehindALineFeed) {
@@ -371,7 +358,7 @@ TEST_F(DlgRelationTest, ANewNameIsRefusedInAnyCaseAndStoredInUpperCase) {
   WhenShown<CDlgRelName>(answer);
   Click("NewRelationButton");
   EXPECT_EQ(shown, (Lines{L"", L"Gear"}));
-  EXPECT_EQ(boxes, (Lines{L"提示:该关系式名称已存在, 请重新输入", L"提示:新增常用关系成功"}));
+  EXPECT_EQ(prompts, (Lines{L"提示:该关系式名称已存在, 请重新输入", L"提示:新增常用关系成功"}));
   EXPECT_EQ(Names(), (Lines{L"BOLT", L"gear"}));
   EXPECT_EQ(StoreFile("BOLT.txt"), "M = 2");
   EXPECT_EQ(Child<QComboBox>("NameCombo")->currentIndex(), 0);

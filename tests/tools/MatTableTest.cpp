@@ -9,10 +9,9 @@
 
 #include "CodePage.h"
 #include "HostControl.h"
-#include "MessageBox.h"
 #include "PluginHost.h"
 #include "ReadBack.h"
-#include "Shell.h"
+#include "RecordedPrompts.h"
 
 namespace fs = std::filesystem;
 
@@ -21,37 +20,18 @@ namespace {
 const std::vector<MatTableRow> kRows{
     {L"01", L"REDUCER", L""}, {L"02", L"INPUT_SHAFT", L"40CR"}, {L"03", L"HOUSING", L"HT200"}};
 
-class MatTableTest : public testing::Test {
+class MatTableTest : public testing::Test, protected RecordedPrompts {
  protected:
-  void SetUp() override {
-    previousBox = platform::SetMessageBoxHandler([this](const platform::MessageBoxRequest& request) {
-      prompts.push_back(request.caption + L":" + request.text);
-      return request.flags == platform::kMbYesNo ? answer : platform::kIdOk;
-    });
-    previousShell = platform::SetShellOpenHandler([this](const platform::ShellOpenRequest& request) {
-      opened.push_back(request.path);
-      return true;
-    });
-    fs::create_directories(dir.path() / "out");
-  }
-  void TearDown() override {
-    platform::SetMessageBoxHandler(previousBox);
-    platform::SetShellOpenHandler(previousShell);
-  }
+  void SetUp() override { fs::create_directories(dir.path() / "out"); }
   std::wstring Target() const { return dir.Wide("out") + L"\\MatTable.xls"; }
 
   TestDir dir;
   PluginHost host{dir};
-  platform::MessageBoxHandler previousBox;
-  platform::ShellOpenHandler previousShell;
-  std::vector<std::wstring> prompts;
-  std::vector<std::wstring> opened;
-  int answer = platform::kIdNo;
 };
 
 TEST_F(MatTableTest, EveryRowGoesBelowTheTemplatesHeadingAndTheFileIsOfferedToOpen) {
   sim::PushAnswer("ProDirectoryChoose", dir.Wide("out"));
-  answer = platform::kIdYes;
+  yes = true;
   WriteMatTable(kRows);
   const fs::path written = dir.path() / "out" / "MatTable.xls";
   ASSERT_TRUE(fs::exists(written));
@@ -82,7 +62,7 @@ TEST_F(MatTableTest, AnExistingTableStaysUnlessTheOverwriteIsConfirmed) {
 TEST_F(MatTableTest, AMissingTemplateIsToldAndTheOldTableIsGoneAlready) {
   fs::remove(fs::path(platform::ToNarrow(host.TextRoot())) / "template" / "mattbl.xls");
   dir.Write("out/MatTable.xls", "earlier");
-  answer = platform::kIdYes;
+  yes = true;
   sim::PushAnswer("ProDirectoryChoose", dir.Wide("out"));
   WriteMatTable(kRows);
   EXPECT_EQ(prompts.back(), L"提示:新建Excel失败");
