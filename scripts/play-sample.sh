@@ -3,8 +3,9 @@
 # scripts of samples/scripts on the sample session:
 #   scripts/play-sample.sh bom-levels
 # Each play gets a fresh working directory, ./bom-work/play/NAME, and its own
-# copy of the plug-in's files there (app/), so that what a script changes in
-# the settings stays with that play.
+# copies there of the plug-in's files (app/) and of the sample session
+# (session/), so that what a script changes in the settings or saves of the
+# models stays with that play.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -19,4 +20,6 @@ work="bom-work/play/${name%.play}"
 rm -rf "$work"
 mkdir -p "$work"
 cp -r build/release/stage "$work/app"
-exec build/release/workbench/bom-workbench play "$script" --workdir "$work" --plugin-root "$work/app" "${@:2}"
+cp -r build/release/samples/reducer "$work/session"
+exec build/release/workbench/bom-workbench play "$script" --workdir "$work" --plugin-root "$work/app" \
+  --session "$work/session" "${@:2}"

@@ -10,8 +10,12 @@ namespace fs = std::filesystem;
 
 namespace {
 
+// On a copy of the sample session: a script may save models.
 JobRun Play(const TestDir& dir, const fs::path& script) {
-  return RunJob(dir, "play '" + script.string() + "'", "",
+  if (!fs::exists(dir.path() / "session"))
+    fs::copy(fs::path(BOM_SAMPLES_DIR) / "reducer", dir.path() / "session", fs::copy_options::recursive);
+  return RunJob(dir, "play '" + script.string() + "'",
+                "--session '" + (dir.path() / "session").string() + "'",
                 "env -u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM");
 }
 
