@@ -144,11 +144,20 @@ class MessagesTo {
   Message_SequenceOfPrinters saved_;
 };
 
-Handle(TDocStd_Document) NewDocument() {
-  Handle(TDocStd_Document) document;
-  XCAFApp_Application::GetApplication()->NewDocument("MDTV-XCAF", document);
-  return document;
-}
+// A document of the application's session, closed however the export ends.
+class Document {
+ public:
+  Document() { XCAFApp_Application::GetApplication()->NewDocument("MDTV-XCAF", document_); }
+  ~Document() { XCAFApp_Application::GetApplication()->Close(document_); }
+  Document(const Document&) = delete;
+  Document& operator=(const Document&) = delete;
+
+  const Handle(TDocStd_Document) & get() const { return document_; }
+  Handle(XCAFDoc_ShapeTool) Shapes() const { return XCAFDoc_DocumentTool::ShapeTool(document_->Main()); }
+
+ private:
+  Handle(TDocStd_Document) document_;
+};
 
 bool WriteDocument(const Handle(TDocStd_Document) & document, Format3D format, const std::string& file) {
   if (format == Format3D::Iges) {
@@ -173,22 +182,20 @@ Export3DResult Write3DFile(const HostState& state, const Model& top, const Expor
   Export3DResult result;
   MessagesTo log(result.messages);
   try {
-    Handle(TDocStd_Document) document = NewDocument();
-    Handle(XCAFDoc_ShapeTool) tool = XCAFDoc_DocumentTool::ShapeTool(document->Main());
-    DocumentBuilder builder(state, tool, options.solids);
-    TDF_Label product = builder.Product(top);
+    Document structured;
+    Handle(XCAFDoc_ShapeTool) tool = structured.Shapes();
+    TDF_Label product = DocumentBuilder(state, tool, options.solids).Product(top);
     tool->UpdateAssemblies();
     TopoDS_Shape shape = tool->GetShape(product);
-    if (!options.structure && tool->IsAssembly(product)) {
-      XCAFApp_Application::GetApplication()->Close(document);
-      document = NewDocument();
-      tool = XCAFDoc_DocumentTool::ShapeTool(document->Main());
-      TDataStd_Name::Set(tool->AddShape(shape, Standard_False),
-                         TCollection_ExtendedString(top.def.name.c_str()));
-    }
     for (TopExp_Explorer solid(shape, TopAbs_SOLID); solid.More(); solid.Next()) ++result.solids;
-    result.written = WriteDocument(document, options.format, file.string());
-    XCAFApp_Application::GetApplication()->Close(document);
+    if (options.structure || !tool->IsAssembly(product)) {
+      result.written = WriteDocument(structured.get(), options.format, file.string());
+    } else {
+      Document flat;
+      TDataStd_Name::Set(flat.Shapes()->AddShape(shape, Standard_False),
+                         TCollection_ExtendedString(top.def.name.c_str()));
+      result.written = WriteDocument(flat.get(), options.format, file.string());
+    }
   } catch (const Standard_Failure&) {
     result.written = false;
   }
