@@ -159,6 +159,8 @@ TEST_F(SimIntf3DExport, PartToStepHoldsItsSolidsUnderItsNameWithinItsOutline) {
   EXPECT_FALSE(step.assembly);
   EXPECT_EQ(step.products, std::set<std::string>{"SHAFT"});
   ExpectBox(step.box, Outline(shaft));
+  // AP214's schema, by its name in the file's header.
+  EXPECT_NE(dir.Read("out/SHAFT.stp").find("FILE_SCHEMA(('AUTOMOTIVE_DESIGN"), std::string::npos);
   EXPECT_TRUE(Exists("out/SHAFT__out.log.1"));
 }
 
