@@ -16,6 +16,10 @@ packages=(
   python3-xlrd python3-openpyxl libreoffice-calc-nogui fonts-wqy-zenhei
   # the dialogs and the workbench's window, Qt's own texts in Chinese
   qt6-base-dev qt6-translations-l10n
+  # STEP and IGES files out of the simulated host
+  libocct-data-exchange-dev libocct-ocaf-dev libocct-modeling-algorithms-dev
+  # which Open CASCADE's CMake targets link without depending on it
+  libtbb-dev
   # a locale with a decimal comma for the tests of number texts
   locales
 )

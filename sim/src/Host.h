@@ -10,6 +10,7 @@
 #include "Inspection.h"
 #include "MenuBar.h"
 #include "Model.h"
+#include "OutputOptions.h"
 #include "SelectionBuffer.h"
 #include "TextPaths.h"
 
@@ -69,6 +70,7 @@ struct HostState {
   bool logCalls = false;
   std::vector<Selected> selectionBuffer;
   DetailObjects details;  // table data and note data handed out
+  OutputOptions outputOptions;
   std::vector<UnloadedModel> unloaded;
   std::set<std::wstring> unloadedNames;  // of `unloaded`, in lower case
 
