@@ -10,6 +10,7 @@
 #include "PluginHost.h"
 #include "ProMdl.h"
 #include "ScopedTrash.h"
+#include "SessionFiles.h"
 #include "Timers.h"
 
 namespace fs = std::filesystem;
@@ -36,10 +37,7 @@ class AutoSaveTest : public testing::Test {
     dir_.Write("app/config/SaveAuto.cfg", "[DlgSet]\n" + dlgSetLines + "\n[WrkDir]\nIsSaveWrkDir=0\n");
   }
   ProMdl Load(const std::string& file, const std::string& json, int versions) {
-    for (int i = 1; i <= versions; ++i) dir_.Write("work/" + file + "." + std::to_string(i), json);
-    ProMdl mdl = sim::OpenModel(std::wstring(file.begin(), file.end()));
-    EXPECT_NE(mdl, nullptr);
-    return mdl;
+    return LoadVersions(dir_, file, json, versions);
   }
   void Tick() { AutoSaveTick(nullptr, 0x0113, nextTimerId_, 0); }
   int Saves() const {
