@@ -13,6 +13,7 @@ namespace fs = std::filesystem;
 
 // A model that came from a file is saved beside it, a new one in the current
 // directory; the version is one above both the model's and any found there.
+// The message area tells the save, as the host does.
 extern "C" ProError ProMdlSave(ProMdl handle) {
   sim::ToolkitCall call("ProMdlSave", {sim::ModelRef{handle}});
   if (call.Failed()) return call.Status();
@@ -29,6 +30,8 @@ extern "C" ProError ProMdlSave(ProMdl handle) {
   model->fileName = fileName;
   model->version = version;
   model->modified = false;
+  call.state().ShowMessage(sim::UpperCase(model->stem + L"." + sim::ExtensionOfType(model->def.type)) +
+                           L" has been saved.");
   return PRO_TK_NO_ERROR;
 }
 

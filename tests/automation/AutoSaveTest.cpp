@@ -7,6 +7,7 @@
 #include "AutomationTimers.h"
 #include "CallLog.h"
 #include "HostControl.h"
+#include "Inspection.h"
 #include "PluginHost.h"
 #include "ProMdl.h"
 #include "ScopedTrash.h"
@@ -115,6 +116,7 @@ TEST_F(AutoSaveTest, AChangedModelIsSavedAloneWithoutOldVersionCleanup) {
   Change(shaft);
   Tick();
   EXPECT_TRUE(Exists("shaft.prt.3"));
+  EXPECT_EQ(sim::Messages().currentLine, L"SHAFT.PRT has been saved.") << "the save is seen";
   EXPECT_TRUE(Exists("shaft.prt.1"));
   EXPECT_TRUE(trash_.Names().empty());
   Tick();
