@@ -89,8 +89,8 @@ TEST_F(ModelVersionsTest, BackupLeavesOnlyTheNewestCopyOfAModelWithADrawing) {
     dir_.Write(std::string("backup/") + old, kPart);
   sim::PushAnswer("ProDirectoryChoose", dir_.Wide("backup"));
   EXPECT_EQ(BackupMdl(), 0);
-  EXPECT_TRUE(InBackup("top.asm.2"));
-  EXPECT_TRUE(InBackup("bolt.drw.2"));
+  for (const char* copy : {"top.asm.2", "nut.prt.2", "bolt.prt.3", "bolt.drw.2"})
+    EXPECT_TRUE(InBackup(copy)) << copy;
   EXPECT_TRUE(InBackup("nut.prt.1")) << "without a drawing every copy stays";
   EXPECT_FALSE(InBackup("bolt.prt.1"));
   EXPECT_FALSE(InBackup("bolt.prt.2"));
