@@ -32,3 +32,12 @@ int ShowParamMerge(uiCmdCmdId, uiCmdValue*, void*);
 // "关系批量工具", made anew at each command as the BOM list is. Nothing
 // opens in a headless host.
 int ShowRelation(uiCmdCmdId, uiCmdValue*, void*);
+
+// "自动保存设置", modal; the automatic-save timer restarts after it. Nothing
+// opens in a headless host.
+int ShowSaveAutoSet(uiCmdCmdId, uiCmdValue*, void*);
+
+// The housekeeping commands of the automation group, silent.
+int NewDrw(uiCmdCmdId, uiCmdValue*, void*);
+int BackupCurMdl(uiCmdCmdId, uiCmdValue*, void*);
+int DelOldCurMdl(uiCmdCmdId, uiCmdValue*, void*);

@@ -18,7 +18,8 @@ cmake --preset release >/dev/null
 cmake --build --preset release -j 2
 work="bom-work/play/${name%.play}"
 rm -rf "$work"
-mkdir -p "$work"
+# backup/ is there for a script's backups to be chosen as a directory.
+mkdir -p "$work/backup"
 cp -r build/release/stage "$work/app"
 cp -r build/release/samples/reducer "$work/session"
 exec build/release/workbench/bom-workbench play "$script" --workdir "$work" --plugin-root "$work/app" \

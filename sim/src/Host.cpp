@@ -37,6 +37,11 @@ Model* HostState::CurrentModel() const {
   return nullptr;
 }
 
+void HostState::ShowMessage(std::wstring line) {
+  messages.lines.push_back(line);
+  messages.currentLine = std::move(line);
+}
+
 Model* Host::Keep(std::unique_ptr<Model> model) {
   modelGraveyard_.push_back(std::move(model));
   return modelGraveyard_.back().get();

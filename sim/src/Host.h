@@ -83,6 +83,9 @@ struct HostState {
   Window* FindWindow(int id);
   Window* WindowShowing(const Model* model);
   Model* CurrentModel() const;
+
+  // A new line in the message area, which becomes its current line.
+  void ShowMessage(std::wstring line);
 };
 
 struct Host {

@@ -8,11 +8,13 @@
 #include "ToolkitCall.h"
 
 #include <algorithm>
+#include <vector>
 
 namespace fs = std::filesystem;
 
 // A model that came from a file is saved beside it, a new one in the current
 // directory; the version is one above both the model's and any found there.
+// The message area tells the save, as the host does.
 extern "C" ProError ProMdlSave(ProMdl handle) {
   sim::ToolkitCall call("ProMdlSave", {sim::ModelRef{handle}});
   if (call.Failed()) return call.Status();
@@ -29,11 +31,27 @@ extern "C" ProError ProMdlSave(ProMdl handle) {
   model->fileName = fileName;
   model->version = version;
   model->modified = false;
+  call.state().ShowMessage(sim::UpperCase(model->stem + L"." + sim::ExtensionOfType(model->def.type)) +
+                           L" has been saved.");
   return PRO_TK_NO_ERROR;
 }
 
-// The backup keeps the model's version number, so that backups of successive
-// versions lie side by side as in the model's own directory.
+namespace {
+
+// The model and, once each, every model it depends on: an assembly's
+// components at every depth, a drawing's solids and theirs.
+void CollectDependents(sim::Model* model, std::vector<sim::Model*>& models) {
+  if (!model || std::find(models.begin(), models.end(), model) != models.end()) return;
+  models.push_back(model);
+  for (sim::Model* component : model->componentModels) CollectDependents(component, models);
+  for (sim::Model* solid : model->solids) CollectDependents(solid, models);
+}
+
+}  // namespace
+
+// The backup holds the model with everything it depends on, each under its
+// own version number, so that backups of successive versions lie side by
+// side as in the model's own directory.
 extern "C" ProError ProMdlnameBackup(ProMdl handle, ProPath backup_dir) {
   sim::ToolkitCall call("ProMdlnameBackup", {sim::ModelRef{handle}, backup_dir});
   if (call.Failed()) return call.Status();
@@ -44,8 +62,13 @@ extern "C" ProError ProMdlnameBackup(ProMdl handle, ProPath backup_dir) {
       *backup_dir ? sim::NormalDir(state.currentDir / platform::ResolvePath(backup_dir)) : state.currentDir;
   std::error_code error;
   if (!fs::is_directory(dir, error)) return PRO_TK_INVALID_DIR;
-  fs::path file = dir / platform::NativePath(sim::VersionedFileName(*model, std::max(model->version, 1)));
-  return sim::WriteModelFile(file, sim::SavedDocument(*model)) ? PRO_TK_NO_ERROR : PRO_TK_CANT_WRITE;
+  std::vector<sim::Model*> models;
+  CollectDependents(model, models);
+  for (const sim::Model* saved : models) {
+    fs::path file = dir / platform::NativePath(sim::VersionedFileName(*saved, std::max(saved->version, 1)));
+    if (!sim::WriteModelFile(file, sim::SavedDocument(*saved))) return PRO_TK_CANT_WRITE;
+  }
+  return PRO_TK_NO_ERROR;
 }
 
 extern "C" ProError ProMdlDataGet(ProMdl handle, ProMdldata* p_data) {

@@ -24,8 +24,6 @@ extern "C" ProError ProMessageDisplay(ProFileName file_name, ProCharLine message
   va_start(args, message_name);
   std::wstring line = sim::FormatMessage(message.text, args);
   va_end(args);
-  sim::MessageArea& area = call.state().messages;
-  area.lines.push_back(line);
-  area.currentLine = std::move(line);
+  call.state().ShowMessage(std::move(line));
   return PRO_TK_NO_ERROR;
 }

@@ -7,9 +7,11 @@
 #include "AutomationTimers.h"
 #include "CallLog.h"
 #include "HostControl.h"
+#include "Inspection.h"
 #include "PluginHost.h"
 #include "ProMdl.h"
 #include "ScopedTrash.h"
+#include "SessionFiles.h"
 #include "Timers.h"
 
 namespace fs = std::filesystem;
@@ -36,10 +38,7 @@ class AutoSaveTest : public testing::Test {
     dir_.Write("app/config/SaveAuto.cfg", "[DlgSet]\n" + dlgSetLines + "\n[WrkDir]\nIsSaveWrkDir=0\n");
   }
   ProMdl Load(const std::string& file, const std::string& json, int versions) {
-    for (int i = 1; i <= versions; ++i) dir_.Write("work/" + file + "." + std::to_string(i), json);
-    ProMdl mdl = sim::OpenModel(std::wstring(file.begin(), file.end()));
-    EXPECT_NE(mdl, nullptr);
-    return mdl;
+    return LoadVersions(dir_, file, json, versions);
   }
   void Tick() { AutoSaveTick(nullptr, 0x0113, nextTimerId_, 0); }
   int Saves() const {
@@ -117,6 +116,7 @@ TEST_F(AutoSaveTest, AChangedModelIsSavedAloneWithoutOldVersionCleanup) {
   Change(shaft);
   Tick();
   EXPECT_TRUE(Exists("shaft.prt.3"));
+  EXPECT_EQ(sim::Messages().currentLine, L"SHAFT.PRT has been saved.") << "the save is seen";
   EXPECT_TRUE(Exists("shaft.prt.1"));
   EXPECT_TRUE(trash_.Names().empty());
   Tick();

@@ -13,6 +13,7 @@
 #include <nlohmann/json.hpp>
 
 #include <filesystem>
+#include <set>
 #include <vector>
 
 namespace fs = std::filesystem;
@@ -101,6 +102,22 @@ TEST_F(SimModelFile, BackupWritesTheModelUnderItsNameAndVersionIntoTheDirectory)
   EXPECT_EQ(Origin(cover), dir.Wide("work/cover.prt.3")) << "the model stays where it came from";
   ProPath missing{L"/no/such/dir"};
   EXPECT_EQ(ProMdlnameBackup(cover, missing), PRO_TK_INVALID_DIR);
+}
+
+TEST_F(SimModelFile, BackupOfADrawingOrAssemblyTakesEveryModelBelowItOnce) {
+  dir.Write("work/bolt.prt.2", ModelJson("part"));
+  dir.Write("work/sub.asm.1", ModelJson("assembly", R"("components": [{"id": 1, "model": "bolt.prt"}])"));
+  dir.Write("work/top.asm.4", ModelJson("assembly", R"("components": [{"id": 1, "model": "sub.asm"},)"
+                                                    R"( {"id": 2, "model": "bolt.prt"}])"));
+  dir.Write("work/top.drw.1", ModelJson("drawing", R"("solids": ["top.asm"])"));
+  fs::create_directories(dir.path() / "backup");
+  ProPath path{};
+  dir.Wide("backup").copy(path, PRO_PATH_SIZE - 1);
+  ASSERT_EQ(ProMdlnameBackup(Load(L"top.drw"), path), PRO_TK_NO_ERROR);
+  std::set<std::string> names;
+  for (const auto& entry : fs::directory_iterator(dir.path() / "backup"))
+    names.insert(entry.path().filename());
+  EXPECT_EQ(names, (std::set<std::string>{"bolt.prt.2", "sub.asm.1", "top.asm.4", "top.drw.1"}));
 }
 
 TEST_F(SimModelFile, RenameChangesTheSessionNameAndTheFilesFollowAtTheNextSave) {

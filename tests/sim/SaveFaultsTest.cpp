@@ -1,6 +1,7 @@
 // A save the disk or the system refuses: the host's promise that the
 // versions on disk stay as they were.
 #include "FileFaults.h"
+#include "Inspection.h"
 #include "ProMdl.h"
 #include "SimTest.h"
 
@@ -40,6 +41,7 @@ class SimSaveFaults : public SimTest {
 
 }  // namespace
 
+// Only a save that happened is told in the message area.
 TEST_F(SimSaveFaults, DiskFullHalfWayCannotWriteAndKeepsThePreviousVersion) {
   platform::InjectFileFault({platform::FileFaultKind::kDiskFull, dir.path() / "work", kSaved.size() / 2});
   EXPECT_EQ(ProMdlSave(shaft), PRO_TK_CANT_WRITE);
@@ -47,9 +49,11 @@ TEST_F(SimSaveFaults, DiskFullHalfWayCannotWriteAndKeepsThePreviousVersion) {
   ProBoolean modified = PRO_B_FALSE;
   ASSERT_EQ(ProMdlModificationVerify(shaft, &modified), PRO_TK_NO_ERROR);
   EXPECT_EQ(modified, PRO_B_TRUE) << "the change is still unsaved";
+  EXPECT_TRUE(sim::Messages().lines.empty());
 
   platform::ClearFileFaults();
   ASSERT_EQ(ProMdlSave(shaft), PRO_TK_NO_ERROR);
   EXPECT_EQ(Origin(shaft), dir.Wide("work/shaft.prt.3"));
+  EXPECT_EQ(sim::Messages().lines, std::vector<std::wstring>{L"SHAFT.PRT has been saved."});
   EXPECT_EQ(dir.Read("work/shaft.prt.2"), kSaved);
 }
