@@ -10,8 +10,10 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// On a copy of the sample session: a script may save models.
+// On a copy of the sample session, as scripts/play-sample.sh plays: a script
+// may save and delete models, and back them up into work/backup.
 JobRun Play(const TestDir& dir, const fs::path& script) {
+  fs::create_directories(dir.path() / "work" / "backup");
   if (!fs::exists(dir.path() / "session"))
     fs::copy(fs::path(BOM_SAMPLES_DIR) / "reducer", dir.path() / "session", fs::copy_options::recursive);
   return RunJob(dir, "play '" + script.string() + "'",
@@ -41,6 +43,18 @@ TEST(PlayJobTest, LevelsScriptWritesAWorkbookAndATextFilePerLevel) {
     EXPECT_TRUE(fs::exists(dir.path() / "work" / "Excel" / (name + ".xls"))) << name;
     EXPECT_TRUE(fs::exists(dir.path() / "work" / (name + ".txt"))) << name;
   }
+}
+
+TEST(PlayJobTest, HousekeepingBacksUpTheReducerAndTrashesTheHousingsOldVersions) {
+  TestDir dir;
+  JobRun run = Play(dir, fs::path(BOM_SOURCE_DIR) / "samples" / "scripts" / "housekeeping.play");
+  ASSERT_EQ(run.exitCode, 0) << run.all();
+  bool backedUp = false;
+  for (const fs::directory_entry& entry : fs::directory_iterator(dir.path() / "work" / "backup"))
+    backedUp = backedUp || entry.path().filename().string().starts_with("reducer.asm");
+  EXPECT_TRUE(backedUp);
+  EXPECT_FALSE(fs::exists(dir.path() / "session" / "housing.prt.1"));
+  EXPECT_TRUE(fs::exists(dir.path() / "session" / "housing.prt.3"));
 }
 
 TEST(PlayJobTest, BrokenScriptNamesItsLineAndExitsOne) {
