@@ -8,7 +8,9 @@
 #include <QElapsedTimer>
 #include <QTimer>
 
+#include <algorithm>
 #include <exception>
+#include <filesystem>
 #include <map>
 #include <optional>
 
@@ -112,7 +114,8 @@ class Player {
         {L"dblclick", &Player::StepList}, {L"edit", &Player::StepList},
         {L"menu", &Player::StepList},     {L"dump", &Player::StepList},
         {L"tree", &Player::StepTree},     {L"answer", &Player::StepAnswer},
-        {L"model", &Player::StepModel},   {L"close", &Player::StepClose}};
+        {L"model", &Player::StepModel},   {L"files", &Player::StepFiles},
+        {L"close", &Player::StepClose}};
     auto function = steps.find(step.fields[0]);
     if (function == steps.end()) return Fail(L"no step " + step.fields[0]);
     try {
@@ -262,6 +265,22 @@ class Player {
     std::optional<std::string> state = model ? sim::ModelState(model) : std::nullopt;
     if (!state) return Fail(L"no model " + step.fields[1] + L" in the session");
     out_ << *state << std::endl;
+    return Done();
+  }
+
+  // What a step did on disk, for a script's reader: the names in a
+  // directory, sorted, a subdirectory with "/" behind it.
+  Outcome StepFiles(const ScriptStep& step) {
+    if (!HasFields(step, 2, 2)) return Usage(L"files DIR");
+    std::filesystem::path dir(platform::ToNarrow(ExpandPathVariables(step.fields[1])));
+    std::error_code error;
+    std::vector<std::string> names;
+    for (const auto& entry : std::filesystem::directory_iterator(dir, error))
+      names.push_back(entry.path().filename().string() + (entry.is_directory() ? "/" : ""));
+    if (error) return Fail(L"cannot list " + platform::ToWide(dir.string()));
+    std::sort(names.begin(), names.end());
+    for (const std::string& name : names) out_ << name << "\n";
+    out_.flush();
     return Done();
   }
 

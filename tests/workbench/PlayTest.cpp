@@ -152,6 +152,14 @@ TEST_F(PlayTest, QueuedAnswersGoToQuestionsAndChoosersInOrder) {
   EXPECT_TRUE(std::filesystem::exists(dir_.path() / "out" / "REDUCER_零件明细.txt"));
 }
 
+TEST_F(PlayTest, FilesListsADirectorySortedWithItsSubdirectoriesMarked) {
+  dir_.Write("listed/b.txt", "");
+  dir_.Write("listed/a/inner.txt", "");
+  Played played = Play("files $WORKDIR/listed\n");
+  ASSERT_EQ(played.exitCode, 0) << played.err;
+  EXPECT_TRUE(played.Printed("1> files $WORKDIR/listed\na/\nb.txt\n")) << played.out;
+}
+
 TEST_F(PlayTest, DrawingTableGoesToThePointAnsweredForThePick) {
   Played played = Play(
       "current reducer.drw\n"
@@ -215,6 +223,7 @@ TEST_F(PlayTest, StepsThatCannotRunFailWithTheirLine) {
       {"frobnicate\n", "test.play:1: frobnicate: no step frobnicate"},
       {"answer maybe\n", "answer takes yes, no"},
       {"close\n", "test.play:1: close: no plug-in window is open"},
+      {"files $WORKDIR/none\n", "test.play:1: files $WORKDIR/none: cannot list "},
       // Last: a part stays current.
       {"current housing.prt\nrun CmdBOMShowId\n",
        "test.play:2: run CmdBOMShowId: the command CmdBOMShowId is not available"},
