@@ -43,8 +43,7 @@ int CTkMaterial::ListMaterialFiles(const std::wstring& directory, const std::wst
   HostPathLists lists;
   if (ProError status = lists.List(directory, filter, PRO_FILE_LIST_LATEST)) return status;
   for (const std::wstring& file : HostPathLists::Texts(lists.files)) {
-    // The host hands out slashes where Windows has backslashes.
-    std::wstring name = file.substr(file.find_last_of(L"\\/") + 1);
+    std::wstring name = tktext::FileNameOf(file);
     names.push_back(bare ? tktext::Upper(name.substr(0, name.find(L'.'))) : name);
   }
   for (const std::wstring& subdirectory : HostPathLists::Texts(lists.directories))

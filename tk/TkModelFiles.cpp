@@ -76,8 +76,7 @@ int CTkModel::DelMdlVersionsAll(ProMdl mdl) const {
 int CTkModel::DelOldVersionsKeepCurrent(ProMdl mdl, const std::wstring& directory) const {
   int version = GetMdlVersion(mdl);
   std::wstring origin = GetMdlOriginPath(mdl, 0);
-  // The host hands out backslashes on its home system and slashes elsewhere.
-  std::wstring name = origin.substr(origin.find_last_of(L"\\/") + 1);
+  std::wstring name = tktext::FileNameOf(origin);
   DeleteVersions(directory + L"\\" + name, 1, version);
   return 0;
 }

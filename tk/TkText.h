@@ -27,6 +27,12 @@ inline std::wstring TrimBlanks(const std::wstring& text) {
   return text.substr(first, text.find_last_not_of(L' ') - first + 1);
 }
 
+// What stands behind the last separator. The host hands out backslashes on
+// its home system and slashes elsewhere, so both count.
+inline std::wstring FileNameOf(const std::wstring& path) {
+  return path.substr(path.find_last_of(L"\\/") + 1);
+}
+
 // A path holding more than one dot loses everything from its last dot:
 // a.prt.3 becomes a.prt. The whole path counts, so a dotted directory costs
 // an unversioned file its extension.

@@ -10,10 +10,8 @@ namespace {
 
 constexpr wchar_t kSeparators[] = L"\\/";
 
-std::wstring FileName(const std::wstring& path) { return path.substr(path.find_last_of(kSeparators) + 1); }
-
 std::wstring NameBeforeFirstDot(const std::wstring& path) {
-  std::wstring name = FileName(path);
+  std::wstring name = tktext::FileNameOf(path);
   return name.substr(0, name.find(L'.'));
 }
 

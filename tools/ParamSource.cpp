@@ -82,8 +82,7 @@ int CParamSource::ReadExcelParams(std::vector<ParamData>& params) const {
 
 int CParamSource::ReadMdlParams(const std::wstring& path, std::vector<ParamData>& params) const {
   params.clear();
-  // The host's own paths on POSIX separate with slashes.
-  std::wstring fileName = path.substr(path.find_last_of(L"\\/") + 1);
+  std::wstring fileName = tktext::FileNameOf(path);
   ProName lookup{};
   tktext::CopyToBuffer(lookup, fileName);
   ProMdl mdl = nullptr;

@@ -40,6 +40,24 @@ std::vector<sim::MaterialDef>::iterator Held(sim::Model& part, std::wstring_view
                       [&](const sim::MaterialDef& held) { return sim::SameNoCase(held.name, name); });
 }
 
+std::wstring NameText(const wchar_t* name) { return std::wstring(name, wcsnlen(name, PRO_NAME_SIZE - 1)); }
+
+// A material the part holds, named by the host's material handle.
+struct HeldLookup {
+  ProError status = PRO_TK_NO_ERROR;
+  sim::Model* part = nullptr;
+  std::vector<sim::MaterialDef>::iterator held;
+};
+
+HeldLookup FindHeld(const sim::HostState& state, const ProMaterial* material) {
+  if (!material) return {PRO_TK_BAD_INPUTS};
+  PartLookup found = FindPart(state, material->part);
+  if (found.status) return {found.status};
+  auto held = Held(*found.part, NameText(material->matl_name));
+  if (held == found.part->def.materials.end()) return {PRO_TK_E_NOT_FOUND};
+  return {PRO_TK_NO_ERROR, found.part, held};
+}
+
 void SetMaterialNameParameter(sim::Model& part, const std::wstring& name) {
   auto& parameters = part.def.parameters;
   auto found = std::find_if(parameters.begin(), parameters.end(), [](const sim::ParameterDef& parameter) {
@@ -66,8 +84,6 @@ void ApplyCurrentMaterial(sim::Model& part) {
   }
   part.modified = true;
 }
-
-std::wstring NameText(const wchar_t* name) { return std::wstring(name, wcsnlen(name, PRO_NAME_SIZE - 1)); }
 
 // The option's directory, a relative one taken from the current directory;
 // without the option the current directory itself.
@@ -123,12 +139,10 @@ extern "C" ProError ProMaterialDelete(ProMaterial* p_material) {
   sim::ToolkitCall call("ProMaterialDelete", {sim::ModelRef{p_material ? p_material->part : nullptr},
                                               p_material ? p_material->matl_name : L""});
   if (call.Failed()) return call.Status();
-  if (!p_material) return PRO_TK_BAD_INPUTS;
-  PartLookup found = FindPart(call.state(), p_material->part);
+  HeldLookup found = FindHeld(call.state(), p_material);
   if (found.status) return found.status;
   sim::Model& part = *found.part;
-  auto held = Held(part, NameText(p_material->matl_name));
-  if (held == part.def.materials.end()) return PRO_TK_E_NOT_FOUND;
+  auto held = found.held;
   bool current = sim::SameNoCase(held->name, part.def.material);
   part.def.materials.erase(held);
   if (current) {
@@ -165,13 +179,10 @@ extern "C" ProError ProMaterialCurrentSet(ProMaterial* p_material) {
   sim::ToolkitCall call("ProMaterialCurrentSet", {sim::ModelRef{p_material ? p_material->part : nullptr},
                                                   p_material ? p_material->matl_name : L""});
   if (call.Failed()) return call.Status();
-  if (!p_material) return PRO_TK_BAD_INPUTS;
-  PartLookup found = FindPart(call.state(), p_material->part);
+  HeldLookup found = FindHeld(call.state(), p_material);
   if (found.status) return found.status;
   sim::Model& part = *found.part;
-  auto held = Held(part, NameText(p_material->matl_name));
-  if (held == part.def.materials.end()) return PRO_TK_E_NOT_FOUND;
-  part.def.material = held->name;
+  part.def.material = found.held->name;
   ApplyCurrentMaterial(part);
   return PRO_TK_NO_ERROR;
 }

@@ -27,3 +27,11 @@ inline sim::ParameterDef IntParam(const std::wstring& name, int integer) {
   param.integer = integer;
   return param;
 }
+
+inline sim::ParameterDef BoolParam(const std::wstring& name, bool value) {
+  sim::ParameterDef param;
+  param.name = name;
+  param.type = PRO_PARAM_BOOLEAN;
+  param.integer = value ? 1 : 0;
+  return param;
+}

@@ -13,21 +13,11 @@
 #include "ExcelApp.h"
 #include "HostControl.h"
 #include "Inspection.h"
+#include "ParamDefs.h"
 #include "PluginHost.h"
 #include "Shell.h"
 
 namespace {
-
-sim::ParameterDef Parameter(const std::wstring& name, ProParamvalueType type, const std::wstring& text,
-                            double number = 0) {
-  sim::ParameterDef parameter;
-  parameter.name = name;
-  parameter.type = type;
-  parameter.text = text;
-  parameter.number = number;
-  parameter.integer = static_cast<int>(number);
-  return parameter;
-}
 
 ParamData Record(const std::wstring& name, int type, const std::wstring& value, int designated = 0,
                  const std::wstring& description = L"") {
@@ -181,9 +171,8 @@ TEST_F(ParamSourceTest, GbkAndUtf8WithByteOrderMarkReadToTheSameRows) {
 
 TEST_F(ParamSourceTest, ModelParamsAreReadWithTheirTypesTextsAndFlags) {
   sim::ModelDef def;
-  def.parameters = {
-      Parameter(L"图号", PRO_PARAM_STRING, L"QK-02"), Parameter(L"重量", PRO_PARAM_DOUBLE, L"", 1.234),
-      Parameter(L"件数", PRO_PARAM_INTEGER, L"", 4), Parameter(L"外购", PRO_PARAM_BOOLEAN, L"", 1)};
+  def.parameters = {TextParam(L"图号", L"QK-02"), RealParam(L"重量", 1.234), IntParam(L"件数", 4),
+                    BoolParam(L"外购", true)};
   def.parameters[0].designated = true;
   def.parameters[1].description = L"千克";
   sim::AddModel(L"ref.prt", def);
@@ -249,9 +238,7 @@ class ParamSourceApplyTest : public ParamSourceTest {
  protected:
   ParamSourceApplyTest() {
     sim::ModelDef def;
-    def.parameters = {Parameter(L"图号", PRO_PARAM_STRING, L"OLD-1"),
-                      Parameter(L"名称", PRO_PARAM_STRING, L""),
-                      Parameter(L"重量", PRO_PARAM_DOUBLE, L"", 3)};
+    def.parameters = {TextParam(L"图号", L"OLD-1"), TextParam(L"名称", L""), RealParam(L"重量", 3)};
     def.parameters[0].description = L"旧说明";
     part_ = sim::AddModel(L"p.prt", def);
   }
