@@ -36,13 +36,6 @@ ProMdl CurrentMdl() {
   return ProMdlCurrentGet(&mdl) == PRO_TK_NO_ERROR ? mdl : nullptr;
 }
 
-// The list of the model's parameters is a plain report: no check boxes.
-void DropCheckBox(CListCtrlEx* list, int row) {
-  QTableWidgetItem* cell = list->item(row, 0);
-  cell->setFlags(cell->flags() & ~Qt::ItemIsUserCheckable);
-  cell->setData(Qt::CheckStateRole, QVariant());
-}
-
 QWidget* LabelledRow(QWidget* parent, const char* caption, QWidget* field) {
   auto* row = new QWidget(parent);
   auto* layout = new QHBoxLayout(row);
@@ -63,6 +56,7 @@ CDlgParamMerge::CDlgParamMerge(QWidget* parent) : QDialog(parent) {
 
   auto* paramGroup = new QGroupBox("现有模型参数", this);
   paramList_ = Named(new CListCtrlEx(paramGroup), "ParamList");
+  paramList_->SetCheckBoxes(false);  // a plain report of the model's parameters
   paramList_->setMinimumSize(370, 240);
   auto* paramLayout = new QVBoxLayout(paramGroup);
   paramLayout->addWidget(paramList_);
@@ -139,7 +133,6 @@ void CDlgParamMerge::FillParamList() {
   param_.GetMdlParamNames(mdl, names);
   for (int row = 0; row < static_cast<int>(names.size()); ++row) {
     paramList_->InsertItem(row, RowNumberText(row), -1);
-    DropCheckBox(paramList_, row);
     paramList_->SetItemText(row, kColName, names[row]);
     paramList_->SetItemText(row, 2, param_.GetMdlParamValue(mdl, names[row], kListDecimals));
   }

@@ -138,8 +138,10 @@ void CListCtrlEx::InsertItem(int row, const std::wstring& text, int image) {
   insertRow(row);
   QTableWidgetItem* item = CellItem(row, 0);
   item->setText(QString::fromStdWString(text));
-  item->setFlags(item->flags() | Qt::ItemIsUserCheckable);
-  item->setCheckState(Qt::Unchecked);
+  if (checkBoxes_) {
+    item->setFlags(item->flags() | Qt::ItemIsUserCheckable);
+    item->setCheckState(Qt::Unchecked);
+  }
   if (image >= 0) item->setIcon(ListImage(image));
 }
 

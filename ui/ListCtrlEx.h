@@ -40,6 +40,8 @@ class CListCtrlEx : public QTableWidget {
 
   // Cells, check marks and rows as the owner reaches them.
   void InsertColumn(int col, const std::wstring& name, int width);
+  // Rows have check boxes unless turned off here, before the first row.
+  void SetCheckBoxes(bool on) { checkBoxes_ = on; }
   // Inserts a row with its first cell; `image` -1 for none. The row starts
   // unchecked.
   void InsertItem(int row, const std::wstring& text, int image);
@@ -80,6 +82,7 @@ class CListCtrlEx : public QTableWidget {
   QTableWidgetItem* CellItem(int row, int col);
 
   QTextEdit* editField_ = nullptr;  // made at the first edit, then reused
+  bool checkBoxes_ = true;
   int editRow_ = -1;
   int editCol_ = -1;
   std::vector<int> fixedCols_;

@@ -128,7 +128,7 @@ class DlgMatSetTest : public testing::Test, protected RecordedPrompts {
     EXPECT_TRUE(script.error.empty());
     std::ostringstream out;
     std::ostringstream err;
-    EXPECT_EQ(PlayScript(script.steps, {L"test.play", 500, nullptr}, out, err), 0) << err.str();
+    EXPECT_EQ(PlayScript(script.steps, {L"test.play", 500, nullptr, L"", L""}, out, err), 0) << err.str();
     return out.str();
   }
   std::string Path(const std::string& relative) const { return (dir.path() / relative).string(); }
